@@ -1,0 +1,62 @@
+// SPDX-License-Identifier: MIT
+#include "forms/drawing_form.h"
+
+#include <QMouseEvent>
+#include <QPaintEvent>
+#include <QPainter>
+
+#include "forms/keys.h"
+#include "forms/picture.h"
+
+namespace brolk {
+
+DrawingForm::DrawingForm(const FormStyle& style, ColorValue backColor) : Form(style), backColor_(backColor) {
+  setMouseTracking(true);
+  setAttribute(Qt::WA_OpaquePaintEvent);
+  canvas_.Resize(width(), height(), backColor_);
+}
+
+void DrawingForm::Form_MouseDown(int, int, float, float) {}
+void DrawingForm::Form_MouseMove(int, int, float, float) {}
+void DrawingForm::Form_MouseUp(int, int, float, float) {}
+bool DrawingForm::Form_DblClick() {
+  return false;
+}
+
+void DrawingForm::paintEvent(QPaintEvent* event) {
+  QPainter painter(this);
+  painter.drawImage(event->rect(), ImageOver(canvas_), event->rect());
+}
+
+void DrawingForm::resizeEvent(QResizeEvent* event) {
+  canvas_.Resize(width(), height(), backColor_);
+  Form::resizeEvent(event);
+}
+
+void DrawingForm::mousePressEvent(QMouseEvent* event) {
+  setFocus(Qt::MouseFocusReason);
+  BecomeActive();
+  const QPointF at = event->position();
+  Form_MouseDown(ButtonBitsOf(event->buttons()), ShiftBitsOf(static_cast<unsigned int>(event->modifiers())),
+                 static_cast<float>(at.x()), static_cast<float>(at.y()));
+}
+
+void DrawingForm::mouseMoveEvent(QMouseEvent* event) {
+  const QPointF at = event->position();
+  Form_MouseMove(ButtonBitsOf(event->buttons()), ShiftBitsOf(static_cast<unsigned int>(event->modifiers())),
+                 static_cast<float>(at.x()), static_cast<float>(at.y()));
+}
+
+void DrawingForm::mouseReleaseEvent(QMouseEvent* event) {
+  const QPointF at = event->position();
+  Form_MouseUp(ButtonBitsOf(event->button()), ShiftBitsOf(static_cast<unsigned int>(event->modifiers())),
+               static_cast<float>(at.x()), static_cast<float>(at.y()));
+}
+
+void DrawingForm::mouseDoubleClickEvent(QMouseEvent* event) {
+  // The second press of a double click raises the double click alone.
+  if (event->button() == Qt::LeftButton && Form_DblClick()) return;
+  mousePressEvent(event);
+}
+
+}  // namespace brolk

@@ -1,0 +1,10 @@
+// SPDX-License-Identifier: MIT
+#include "tile/windows/confirm_save.h"
+
+namespace brolk {
+
+bool ConfirmSave() {
+  return false;
+}
+
+}  // namespace brolk
