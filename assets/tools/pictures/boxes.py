@@ -10,8 +10,7 @@ FACES = ("OK", "Cancel", "Yes", "No", "Abort", "Retry", "Ignore")
 
 def face(text):
     """A button face of 80 by 32 with the word drawn in."""
-    descends = any(letter in "gy" for letter in text)
-    return box(1, 1, 78, 30, "paper", 3) + word(text, 40, 20 if descends else 21, NAVY, 2)
+    return box(1, 1, 78, 30, "paper", 3) + word(text, 40, 21, NAVY, 2)
 
 
 def octagon():
@@ -30,8 +29,8 @@ def bubble():
 
 def enter():
     """A green key with the return arrow."""
-    return box(2, 2, 28, 28, "green", 4, 2) + line("M23,9 V16.5 H10 M14.5,11.5 L9.5,16.5 L14.5,21.5", INK, 5.5) + line(
-        "M23,9 V16.5 H10 M14.5,11.5 L9.5,16.5 L14.5,21.5", WHITE, 3)
+    turn = "M23,9 V16.5 H10 M14.5,11.5 L9.5,16.5 L14.5,21.5"
+    return box(2, 2, 28, 28, "green", 4, 2) + line(turn, INK, 5.5) + line(turn, WHITE, 3)
 
 
 def escape():

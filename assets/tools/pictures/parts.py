@@ -50,16 +50,36 @@ def closed_folder(x, y, w, h):
             + shape(path("M{},{} H{} V{} H{} Z", left, top + 5, right, bottom, left), "yellow"))
 
 
+def pixels(rows, x, y, size, key, fill):
+    """One path of all pixels of one kind; a run in a row becomes one rectangle."""
+    d = ""
+    for row, text in enumerate(rows):
+        column = 0
+        while column < len(text):
+            run = len(text) - column - len(text[column:].lstrip(key))
+            if run:
+                d += path("M{},{}h{}v{}h{}Z", x + column * size, y + row * size, run * size, size,
+                          -run * size)
+            column += max(run, 1)
+    return flat(d, fill) if d else ""
+
+
+CRITTER = (
+    ".#...#.",
+    "..#.#..",
+    ".#####.",
+    "##.#.##",
+    "#######",
+    "#.###.#",
+    "..#.#..",
+)
+
+
 def tile(x, y, s):
-    """One tile: a square with a staircase of pixels."""
-    inner = s - 2 * STROKE
-    step = inner / 3
-    x0, y0 = x + STROKE, y + STROKE
-    stairs = path("M{},{} v{} h{} v{} h{} v{} h{} v{} H{} Z", x0, y0, step, step, 0, 0, step, step,
-                  step, x0)
-    stairs = path("M{},{} h{} v{} h{} v{} h{} v{} H{} Z", x0, y0, step, step, step, step, step, step,
-                  x0)
-    return box(x, y, s, s, "purple", 1) + flat(stairs, YELLOW)
+    """One tile: a square with a picture of seven by seven pixels. Sharp with sides of 11 and 18."""
+    pixel = int((s - 2 * STROKE) / 7 * 2) / 2
+    margin = (s - 7 * pixel) / 2
+    return box(x, y, s, s, PURPLE, 1) + pixels(CRITTER, x + margin, y + margin, pixel, "#", YELLOW)
 
 
 def tiles(x, y, s, count=2, colours=(PURPLE, YELLOW, ORANGE, BLUE)):
@@ -74,13 +94,19 @@ def tiles(x, y, s, count=2, colours=(PURPLE, YELLOW, ORANGE, BLUE)):
     return cells + line(bars, INK, 1, "butt") + box(x, y, s, s, "none", 1)
 
 
+def frame(x, y, s, count):
+    """A dashed square with solid corners: a place, not a thing; count dashes to a side."""
+    side = s - STROKE
+    pitch = side / count
+    d = path("M{},{} h{} v{} h{} Z", x + 0.75, y + 0.75, side, side, -side)
+    return flat(d, WHITE) + dashed(d, INK, STROKE, pitch * 0.58, pitch * 0.42)
+
+
 def slots(x, y, s):
-    """Empty places for four tiles: dashed squares."""
-    cell = (s - 2) / 2
-    squares = "".join(
-        path("M{},{} h{} v{} h{} Z", x + 0.75 + column * (cell + 2), y + 0.75 + row * (cell + 2),
-             cell - 1.5, cell - 1.5, 1.5 - cell) for row in range(2) for column in range(2))
-    return flat(squares, WHITE) + dashed(squares, INK, STROKE, "2 1.5")
+    """Empty places for four tiles."""
+    cell = (s - 1) / 2
+    return "".join(frame(x + column * (cell + 1), y + row * (cell + 1), cell, 2)
+                   for row in range(2) for column in range(2))
 
 
 def pin(cx, tip, h):
@@ -129,13 +155,13 @@ def page(x, y, w, h, fold=5):
     return shape(sheet, "paper") + shape(corner + " Z", LILAC)
 
 
-def chip(x, y, w, h, legs=3):
-    """A ROM chip with legs at both sides."""
-    pitch = h / legs
-    feet = "".join(path("M{},{} H{}", x + 0.5, y + pitch * (i + 0.5), x + w - 0.5)
-                   for i in range(legs))
-    half = path("M{},{} a{},{} 0 0 0 {},0 Z", x + w / 2 - 1.5, y + 1.25, 1.5, 1.5, 3)
-    return line(feet, INK, 1.5, "butt") + box(x + 2, y, w - 4, h, "#4A3F73", 1) + flat(half, WHITE)
+def chip(x, y, w, h, legs=4):
+    """A ROM chip with legs above and below."""
+    pitch = (w - 1) / legs
+    feet = "".join(path("M{},{} V{}", x + 0.5 + pitch * (i + 0.5), y, y + h) for i in range(legs))
+    notch = path("M{},{} a{},{} 0 0 1 0,{} Z", x + 1.25, y + h / 2 - 1.5, 1.5, 1.5, 3)
+    return (line(feet, INK, 1.5, "butt") + box(x, y + 2, w, h - 4, "#6A5C9C", 1)
+            + flat(notch, WHITE) + line(path("M{},{} H{}", x + 5, y + h / 2, x + w - 2.5), WHITE, 1.25, "butt"))
 
 
 def picture(x, y, w, h):
@@ -201,12 +227,12 @@ def brush(x, y, length, angle=-45):
     return turned(body, angle, x, y)
 
 
-def eraser(x, y, w=12, h=7, angle=-45):
-    """A rubber with its lower left corner about the point: wiping out."""
-    body = (box(x, y - h, w, h, "red", 1.25)
-            + shape(path("M{},{} H{} V{} H{} Z", x + w * 0.42, y - h + 0.75, x + w - 0.75, y - 0.75,
-                         x + w * 0.42), "sky"))
-    return turned(body, angle, x, y)
+def eraser(x, y, w=11, h=7):
+    """A rubber standing on its corner at the point, leaning to the right: wiping out."""
+    body = (box(x, y - h, w, h, "#FF9DB0", 1)
+            + shape(path("M{},{} H{} V{} H{} Z", x + w * 0.45, y - h + 0.75, x + w - 0.75, y - 0.75,
+                         x + w * 0.45), "blue"))
+    return turned(body, -45, x, y)
 
 
 def eye(cx, cy, w, h):

@@ -1,7 +1,8 @@
 # SPDX-License-Identifier: MIT
 """The application icon and the backgrounds."""
 
-from .style import BLUE, INK, ORANGE, PURPLE, YELLOW, flat, number, rect
+from .parts import pixels
+from .style import INK, ORANGE, WHITE, YELLOW, rect
 
 ICON = (
     "........",
@@ -19,7 +20,7 @@ PIXEL_FONT = {
     "B": ("####.", "#...#", "#...#", "####.", "#...#", "#...#", "####."),
     "r": (".....", ".....", "#.##.", "##..#", "#....", "#....", "#...."),
     "o": (".....", ".....", ".###.", "#...#", "#...#", "#...#", ".###."),
-    "l": ("##", ".#", ".#", ".#", ".#", ".#", ".#"),
+    "l": ("#.", "#.", "#.", "#.", "#.", "#.", "##"),
     "k": ("#...", "#...", "#..#", "#.#.", "##..", "#.#.", "#..#"),
     "P": ("####.", "#...#", "#...#", "####.", "#....", "#....", "#...."),
     "u": (".....", ".....", "#...#", "#...#", "#...#", "#..##", ".##.#"),
@@ -28,26 +29,12 @@ PIXEL_FONT = {
 }
 
 
-def pixels(rows, x, y, size, key, fill):
-    """One path of all pixels of one kind; runs in a row become one rectangle."""
-    d = ""
-    for row, text in enumerate(rows):
-        column = 0
-        while column < len(text):
-            run = 0
-            while column + run < len(text) and text[column + run] == key:
-                run += 1
-            if run:
-                left, top = number(x + column * size), number(y + row * size)
-                d += f"M{left},{top}h{number(run * size)}v{number(size)}h{number(-run * size)}Z"
-            column += max(run, 1)
-    return flat(d, fill) if d else ""
-
-
 def application():
     """A tile of eight by eight pixels with a B and a plus: sharp at 16, 24, 32, 48, 64 and 128."""
-    body = f'<rect x="1" y="1" width="62" height="62" rx="9" fill="url(#purple)" stroke="{INK}" stroke-width="2"/>'
-    return body + pixels(ICON, 0, 0, 8, "Y", YELLOW) + pixels(ICON, 0, 0, 8, "O", ORANGE)
+    body = ('<rect x="1" y="1" width="62" height="62" rx="9" fill="url(#purple)"'
+            f' stroke="{INK}" stroke-width="2"/>')
+    edge = f'<path d="M36,4 H52 V12 H60 V28 H52 V36 H36 V28 H28 V12 H36 Z" fill="{INK}"/>'
+    return body + pixels(ICON, 0, 0, 8, "Y", YELLOW) + edge + pixels(ICON, 0, 0, 8, "O", ORANGE)
 
 
 def text_rows(text):
@@ -70,15 +57,21 @@ def weave(base, light):
         for x in range(-64, 65, 8))
 
 
-INVADER = ("..#..#..", "...##...", "..####..", ".##..##.", "########", "#.####.#", "#.#..#.#", "..#..#..")
-SHIP = ("...##...", "...##...", "..####..", "..#..#..", ".######.", "########", "##.##.##", "#..##..#")
-HEART = (".##..##.", "########", "########", "########", ".######.", "..####..", "...##...", "........")
-GEM = ("........", ".######.", "##....##", "#.####.#", ".#.##.#.", "..#..#..", "...##...", "........")
-KEY = ("..####..", ".##..##.", ".##..##.", "..####..", "...##...", "...###..", "...##...", "...###..")
-MUSHROOM = ("..####..", ".##..##.", "###..###", "########", "#.####.#", "..#..#..", "..#..#..", "..####..")
-
-FRIEZE = ((INVADER, YELLOW, "#3A0A4E"), (HEART, "#FF5060", "#4C1058"), (SHIP, "#8FB2FF", "#2C0840"),
-          (MUSHROOM, ORANGE, "#3A0A4E"), (GEM, "#7FE0A0", "#4C1058"), (KEY, YELLOW, "#2C0840"))
+# Tiles of eight by eight pixels; the letters are colours of INKS.
+INKS = {"y": YELLOW, "o": ORANGE, "r": "#FF4F5E", "w": WHITE, "b": "#7FA8FF", "n": "#2A2AC8", "g": "#5FD08A",
+        "p": "#D86BD8", "k": "#12041C"}
+FRIEZE = (
+    ("..y..y..", "...yy...", "..yyyy..", ".ykyyky.", "yyyyyyyy", "yoyyyyoy", "y.o..o.y", "..o..o.."),
+    ("...bb...", "..bwwb..", "..bwwb..", ".bbbbbb.", "bbnbbnbb", "bnnbbnnb", "b.noon.b", "...yy..."),
+    ("........", ".rr..rr.", "rwwrrrrr", "rwrrrrrr", "rrrrrrrr", ".rrrrrr.", "..rrrr..", "...rr..."),
+    ("..yyyy..", ".yoooy..", ".yo.oy..", "..yyy...", "...y....", "...yyy..", "...y....", "...yy..."),
+    (".gggggg.", "gwwggggg", "gwgggggg", ".gggggg.", ".gggggg.", "..gggg..", "...gg...", "...gg..."),
+    ("...oo...", "...yo...", "..oyyo..", ".ooyyoo.", ".oywwyo.", "ooywwyoo", ".ooyyoo.", "..oooo.."),
+    ("bbbbbbbb", "bnnnnnnb", "bnwnnwnb", "bnnnnnnb", "bnwwwwnb", "bnnnnnnb", "bbbbbbbb", "..b..b.."),
+    ("....g...", "...g....", "..rgrr..", ".rrrrrr.", ".rwrrrr.", ".rwrrrr.", ".rrrrrr.", "..rrrr.."),
+    ("...pp...", "..pppp..", ".ppwwpp.", "pppwwppp", ".pppppp.", "..pkkp..", "..pkkp..", ".pppppp."),
+    ("yyyyyyyy", "yooooooy", "yoyyyyoy", "yoyooyoy", "yoyooyoy", "yoyyyyoy", "yooooooy", "yyyyyyyy"),
+)
 
 
 def plate(x, y, height):
@@ -98,10 +91,10 @@ def about():
     left = (499 - len(rows[0]) * size) // 2
     body += pixels(rows, left + 4, 36, size, "#", "#1B0526") + pixels(rows, left, 32, size, "#", YELLOW)
     body += pixels(rows[4:], left, 32 + 4 * size, size, "#", "#FFB21A")
-    for i in range(10):
-        rows, colour, ground = FRIEZE[(i * 5 + i // 6) % 6]
-        x, y = 14 + i * 48, 112
-        body += rect(x, y, 40, 40, ground) + pixels(rows, x, y, 5, "#", colour)
+    for i, picture in enumerate(FRIEZE):
+        x, y = 14 + i * 48, 114
+        body += rect(x - 2, y - 2, 44, 44, ORANGE) + rect(x, y, 40, 40, "#24063A")
+        body += "".join(pixels(picture, x, y, 5, key, INKS[key]) for key in INKS)
     return body + plate(20, 196, 24) + plate(20, 236, 36) + plate(259, 236, 36)
 
 

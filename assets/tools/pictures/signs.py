@@ -1,8 +1,8 @@
 # SPDX-License-Identifier: MIT
 """What buttons do (verbs): arrows, plus, minus, tick, cross, and the few drawn characters."""
 
-from .style import (INK, NAVY, ORANGE, STROKE, WHITE, arc, disc, dot, line, path, polar, polygon,
-                    shape)
+from .style import (GREEN, INK, NAVY, ORANGE, STROKE, WHITE, arc, disc, dot, flat, line, path,
+                    polar, polygon, shape)
 
 
 def arrow(shaft, tip, heading, material="orange", colour=ORANGE, width=2.25, head=7.5):
@@ -25,23 +25,25 @@ def bend():
     return arrow("M13,4.5 H18.5 V8", (18.5, 11.25), 90)
 
 
-def circling(cx, cy, radius, material="green", colour="#2FA844"):
-    """Two arrows chasing each other clockwise: once more."""
-    picture = ""
-    for start in (200, 20):
-        tip = polar(cx, cy, radius, start + 152)
-        picture += arrow(arc(cx, cy, radius, start, start + 112), tip, start + 152 + 68, material, colour,
-                         2, 7)
-    return picture
+def quarter_left():
+    """An arrow that runs counterclockwise from the top to the left side."""
+    x0, y0 = polar(16, 15.5, 11, -60)
+    x1, y1 = polar(16, 15.5, 11, -154)
+    return arrow(path("M{},{} A11,11 0 0 0 {},{}", x0, y0, x1, y1), polar(16, 15.5, 11, 178), 100,
+                 width=2.5, head=8)
 
 
-def turning_left(cx, cy, radius):
-    """One arrow that runs three quarters of a circle counterclockwise."""
-    tip = polar(cx, cy, radius, 160)
-    x0, y0 = polar(cx, cy, radius, 80)
-    x1, y1 = polar(cx, cy, radius, 205)
-    sweep = path("M{},{} A{},{} 0 1 0 {},{}", x0, y0, radius, radius, x1, y1)
-    return arrow(sweep, tip, 90 - 8, "orange", ORANGE, 2.25, 8)
+def back():
+    """An arrow that turns round and runs back to the left: as it was before."""
+    return arrow("M14,11.25 H17 A3.75,3.75 0 0 1 17,18.75 H11.5", (8, 18.75), 180, head=8)
+
+
+def again_badge(cx=16.5, cy=16.5, radius=7):
+    """Reload: a light disc with an arrow that circles once."""
+    r = radius * 0.5
+    neck = polar(cx, cy, r, 275)
+    head = polygon([polar(*neck, 3.9, 18), polar(*neck, 3, 275), polar(*neck, 3, 95)])
+    return disc(cx, cy, radius, WHITE) + line(arc(cx, cy, r, 20, 275), GREEN, 2, "butt") + flat(head, GREEN)
 
 
 def plus_badge(cx=17.5, cy=17.5, radius=5.5):

@@ -71,10 +71,10 @@ def line(d, colour=INK, width=STROKE, cap="round"):
             f' stroke-linecap="{cap}" stroke-linejoin="round"/>')
 
 
-def dashed(d, colour, width, pattern):
-    """A dashed stroke; pattern is the list of dash and gap lengths."""
+def dashed(d, colour, width, dash, gap):
+    """A dashed stroke that starts in the middle of a dash."""
     return (f'<path d="{d}" fill="none" stroke="{colour}" stroke-width="{number(width)}"'
-            f' stroke-dasharray="{pattern}"/>')
+            f' stroke-dasharray="{number(dash)},{number(gap)}" stroke-dashoffset="{number(dash / 2)}"/>')
 
 
 def outlined(d, colour, width=2.0, edge=1.25):
