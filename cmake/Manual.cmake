@@ -217,7 +217,7 @@ else()
   message(STATUS "Manual: left out (BROLK_BUILD_MANUAL is off)")
 endif()
 
-if(TARGET manual AND BUILD_TESTING)
+if(TARGET manual AND BROLK_BUILD_TESTS)
   add_test(NAME Manual.LinksLeadSomewhere
            COMMAND "${CMAKE_COMMAND}" "-DHTML_DIR=${BROLK_MANUAL_DIR}/html"
                    "-DSOURCE_DIR=${BROLK_MANUAL_SOURCE_DIR}" -P
