@@ -2,6 +2,7 @@
 #include "forms/common_dialog.h"
 
 #include <QColorDialog>
+#include <QComboBox>
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
@@ -48,7 +49,8 @@ void CommonDialog::ShowFile(Kind kind) {
   if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return;
   FileName = QDir::toNativeSeparators(dialog.selectedFiles().constFirst());
   FileTitle = QFileInfo(FileName).fileName();
-  FilterIndex = static_cast<int>(filters.indexOf(dialog.selectedNameFilter())) + 1;
+  const auto* types = dialog.findChild<QComboBox*>(QStringLiteral("fileTypeCombo"));
+  if (types != nullptr && types->currentIndex() >= 0) FilterIndex = types->currentIndex() + 1;
 }
 
 void CommonDialog::ShowColor() {

@@ -68,8 +68,8 @@ void Form::MakeChildFrame() {
   childArea->addSubWindow(childFrame_, FlagsOf(style_));
   childFrame_->setMinimumSize(1, 1);
   childFrame_->setWindowIcon(PictureIcon(QStringLiteral("brolkplus")));
-  childFrame_->hide();
   show();
+  childFrame_->hide();
   childFrame_->installEventFilter(this);
   connect(childFrame_, &QMdiSubWindow::windowStateChanged, this,
           [this](Qt::WindowStates before, Qt::WindowStates now) {
@@ -108,6 +108,8 @@ void Form::SetOuterRect(const QRect& rect) {
   if (fixed && Outer()->size() != size) Outer()->setFixedSize(size.expandedTo(QSize(1, 1)));
   if (!fixed) Outer()->resize(size.expandedTo(QSize(1, 1)));
   if (OuterRect().topLeft() != rect.topLeft()) Outer()->move(rect.topLeft());
+  // A hidden frame lays its window out only when it is shown; the window has its size at once.
+  if (childFrame_ != nullptr && childFrame_->isHidden()) resize(rect.size() - FrameExtent());
 }
 
 double Form::Left() const {
@@ -158,8 +160,6 @@ void Form::SetClientSize(int widthPx, int heightPx) {
   QRect rect = OuterRect();
   rect.setSize(QSize(widthPx, heightPx) + FrameExtent());
   SetOuterRect(rect);
-  // A hidden frame lays its window out only when it is shown; the window has its size at once.
-  if (childFrame_ != nullptr) resize(widthPx, heightPx);
 }
 
 QString Form::Caption() const {

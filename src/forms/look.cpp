@@ -18,7 +18,7 @@ constexpr int kFontHeightPx = 11;
 // Frames of the child windows: 3 pixels at the sides and below, 23 above, the sizes that the window formulas
 // of the program count with.
 constexpr int kChildFramePx = 3;
-constexpr int kChildTitlePx = 20;
+constexpr int kChildTitlePx = 23;
 
 class ProgramStyle final : public QProxyStyle {
  public:

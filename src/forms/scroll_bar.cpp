@@ -13,6 +13,8 @@ ScrollBar::ScrollBar(Qt::Orientation orientation, QWidget& parent, const char* n
   setFocusPolicy(Qt::TabFocus);
   setSingleStep(1);
   setPageStep(1);
+  // The toolkit turns the keys of its scroll bars over in both directions; only upright ones want that.
+  setInvertedControls(orientation == Qt::Vertical);
   ShowValue();
   connect(this, &QScrollBar::sliderPressed, this, [this] { valueBeforeDrag_ = value_; });
   connect(this, &QScrollBar::valueChanged, this, [this](int shown) {
