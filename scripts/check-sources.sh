@@ -1,0 +1,19 @@
+#!/usr/bin/env bash
+# SPDX-License-Identifier: MIT
+# Checks on the sources: format, layers, size of functions and files, clang-tidy. Needs a configured build/develop.
+set -euo pipefail
+cd "$(dirname "$0")/.."
+
+format=$(command -v clang-format-14 || command -v clang-format)
+tidy=$(command -v clang-tidy-14 || command -v clang-tidy)
+mapfile -t sources < <(git ls-files '*.cpp' '*.h')
+
+echo "== Format"
+"$format" --dry-run --Werror "${sources[@]}"
+
+echo "== Layers: what each folder may include"
+python3 scripts/check_layers.py
+
+echo "== clang-tidy"
+mapfile -t units < <(git ls-files 'src/*.cpp')
+printf '%s\n' "${units[@]}" | xargs -P "$(nproc)" -n 6 "$tidy" -p build/develop --quiet --warnings-as-errors='*' 2>/dev/null
