@@ -1,0 +1,30 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <string_view>
+
+// The files of the favorites list: .favorites (text, read and written) and .bmk (binary, read only). Paths
+// are UTF-8.
+namespace brolk {
+
+// How a load ended. The wrong header of a text file leaves the list as it was, that of any other file empties
+// it.
+enum class FavoritesLoad { Done, NotFound, WrongTextHeader, WrongBinaryHeader };
+
+// What follows the last point of a path; a path without one has no extension.
+[[nodiscard]] std::string_view ExtensionOf(std::string_view path);
+
+// Reads a file as text if its extension is exactly "favorites", letter case included, and as the binary
+// format otherwise.
+//
+// Text: a line or a skip past the end of the file is the end-of-file fault; the count line alone decides how
+// many records are read, 1 at least and 256 at most, so a list saved empty cannot be read back. A record
+// without ";" is the procedure call fault, an address beyond 32 bits the overflow fault. That is meant.
+// Binary: records up to the end of the file or to 256; one that the end cuts is not counted and keeps its old
+// address.
+[[nodiscard]] FavoritesLoad LoadFavoritesFile(std::string_view path);
+
+// Writes the list as text over whatever stands there. A file that cannot be created is the file fault.
+void SaveFavoritesFile(std::string_view path);
+
+}  // namespace brolk
