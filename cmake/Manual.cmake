@@ -206,6 +206,14 @@ function(brolk_add_manual)
     message(STATUS "Manual: chmcmd (Debian: fp-utils) not found, the help files are left out")
   endif()
   add_custom_target(manual ALL DEPENDS ${results})
+  if(TARGET brolkplus AND chm)
+    # So that the toolbar's help works from the build folder, too.
+    add_custom_command(
+      TARGET manual
+      POST_BUILD
+      COMMAND "${CMAKE_COMMAND}" -E copy_if_different ${chm} "$<TARGET_FILE_DIR:brolkplus>"
+      VERBATIM)
+  endif()
   set(BROLK_MANUAL_FORMS ${forms} PARENT_SCOPE)
 endfunction()
 
