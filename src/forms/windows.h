@@ -15,11 +15,11 @@ void Discard(Form& form);
 // The one window of a class. It is made and loaded at the first reference and can be reached while it loads.
 template <typename Window>
 Window& The() {
-  Window*& window = windows_detail::instance<Window>;
-  if (window == nullptr) {
-    window = new Window;
-    window->Load();
-  }
+  if (windows_detail::instance<Window> != nullptr) return *windows_detail::instance<Window>;
+  auto* window = new Window;
+  windows_detail::instance<Window> = window;
+  // A window that unloads itself while it loads lives on until its caller is through.
+  window->Load();
   return *window;
 }
 

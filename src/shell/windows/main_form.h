@@ -13,6 +13,8 @@
 
 namespace brolk {
 
+inline constexpr int kRecentCount = 9;
+
 // The main window: a frame around the child windows, with toolbar, menus and info panel. Its load event is
 // the start of the program.
 class MainForm final : public Form {
@@ -28,7 +30,12 @@ class MainForm final : public Form {
   // Frees surfaces, file and windows; a second run is harmless. Saves nothing and asks nothing.
   static void QuitProgram();
 
+  // The Editor's tool (EditTools), with the buttons of the Editor panel and the marks of the menu.
+  void ChooseTool(std::uint8_t tool);
+
+  void fbnHelp_Click();
   void fbnOptions_Click();
+  void mnuNonCopied_Click();
 
   void Form_Load() override;
   void Form_Resize() override;
@@ -71,7 +78,7 @@ class MainForm final : public Form {
   MenuItem mnuClose{*this, "mnuClose", "Close file"};
   QMenu mnuRecentMain{QStringLiteral("Recent files"), this};
   // mnuRecent[0] is mnuRecent1.
-  MenuItem mnuRecent[9] = {
+  MenuItem mnuRecent[kRecentCount] = {
       {*this, "mnuRecent1", "Recent 1"}, {*this, "mnuRecent2", "Recent 2"}, {*this, "mnuRecent3", "Recent 3"},
       {*this, "mnuRecent4", "Recent 4"}, {*this, "mnuRecent5", "Recent 5"}, {*this, "mnuRecent6", "Recent 6"},
       {*this, "mnuRecent7", "Recent 7"}, {*this, "mnuRecent8", "Recent 8"}, {*this, "mnuRecent9", "Recent 9"},
@@ -107,6 +114,17 @@ class MainForm final : public Form {
   MenuItem mnuAbout{*this, "mnuAbout", "About"};
 
   CommonDialog cdlMain{*this, "cdlMain"};
+
+ private:
+  void BuildToolbar();
+  void BuildInfoPanel();
+  void BuildMenus();
+  void WireBrowserMenu();
+  void WireEditorMenu();
+  void WireTileMenu();
+  void WireHelpMenu();
+  // The end of the frame: raises its unload event once, which quits and ends the process.
+  static void UnloadFrame();
 };
 
 }  // namespace brolk

@@ -1,0 +1,124 @@
+// SPDX-License-Identifier: MIT
+#include "shell/settings_store.h"
+
+#include <cstdlib>
+#include <fstream>
+#include <iterator>
+#include <system_error>
+
+#include "shell/settings_file.h"
+
+#ifdef _WIN32
+#include "shell/registry.h"
+#endif
+
+namespace brolk {
+namespace {
+
+namespace fs = std::filesystem;
+
+#ifdef _WIN32
+fs::path EnvironmentPath(const wchar_t* name) {
+  const wchar_t* value = _wgetenv(name);
+  return value == nullptr ? fs::path() : fs::path(value);
+}
+fs::path MovedFile() {
+  return EnvironmentPath(L"BROLKPLUS_SETTINGS");
+}
+fs::path ConfigurationFolder() {
+  return EnvironmentPath(L"LOCALAPPDATA");
+}
+#else
+fs::path EnvironmentPath(const char* name) {
+  const char* value = std::getenv(name);
+  return value == nullptr ? fs::path() : fs::path(value);
+}
+fs::path MovedFile() {
+  return EnvironmentPath("BROLKPLUS_SETTINGS");
+}
+fs::path ConfigurationFolder() {
+  // A relative folder in the variable counts as none.
+  const fs::path folder = EnvironmentPath("XDG_CONFIG_HOME");
+  if (folder.is_absolute()) return folder;
+  const fs::path home = EnvironmentPath("HOME");
+  return home.empty() ? home : home / ".config";
+}
+#endif
+
+SettingsTables ReadTables(const fs::path& path) {
+  std::ifstream file(path, std::ios::binary);
+  const std::string content(std::istreambuf_iterator<char>(file), {});
+  return SettingsTables::Parse(content);
+}
+
+// Puts the whole content beside the file and then in its place, so that a reader, or a run that dies
+// half-way, meets the old file or the new one and never a part.
+bool ReplaceContent(const fs::path& path, const std::string& content) {
+  std::error_code error;
+  const fs::path target = fs::is_symlink(path, error) ? fs::weakly_canonical(path, error) : path;
+  fs::path fresh = target;
+  fresh += ".new";
+  std::ofstream file(fresh, std::ios::binary | std::ios::trunc);
+  file << content;
+  file.close();
+  if (file.fail()) {
+    fs::remove(fresh, error);
+    return false;
+  }
+  fs::rename(fresh, target, error);
+  if (!error) return true;
+  fs::remove(fresh, error);
+  return false;
+}
+
+StoreResult StoreInFile(std::string_view key, std::string_view name, std::string_view text) {
+  const fs::path path = SettingsFile();
+  if (path.empty()) return {kStoreFileNotFound, kStoreInvalidHandle};
+  std::error_code error;
+  if (path.has_parent_path()) fs::create_directories(path.parent_path(), error);
+  if (error) return {kStoreAccessDenied, kStoreInvalidHandle};
+  SettingsTables tables = ReadTables(path);
+  tables.Set(key, name, text);
+  return {kStoreSuccess, ReplaceContent(path, tables.Text()) ? kStoreSuccess : kStoreAccessDenied};
+}
+
+std::optional<std::string> TextInFile(std::string_view key, std::string_view name) {
+  const SettingsTables tables = ReadTables(SettingsFile());
+  const SettingsValue* value = tables.Find(key, name);
+  if (value == nullptr) return std::nullopt;
+  return value->text;
+}
+
+}  // namespace
+
+fs::path SettingsFile() {
+  const fs::path moved = MovedFile();
+  if (!moved.empty()) return moved;
+  const fs::path folder = ConfigurationFolder();
+  return folder.empty() ? folder : folder / "brolkplus" / "settings";
+}
+
+fs::path SettingsLockFile() {
+  fs::path lock = SettingsFile();
+  lock += ".lock";
+  return lock;
+}
+
+#ifdef _WIN32
+StoreResult StoreText(std::int32_t root, std::string_view key, std::string_view name, std::string_view text) {
+  return MovedFile().empty() ? StoreInRegistry(root, key, name, text) : StoreInFile(key, name, text);
+}
+std::optional<std::string> StoredText(std::int32_t root, std::string_view key, std::string_view name) {
+  return MovedFile().empty() ? TextInRegistry(root, key, name) : TextInFile(key, name);
+}
+#else
+// A file knows no roots: there is one table for each key.
+StoreResult StoreText(std::int32_t, std::string_view key, std::string_view name, std::string_view text) {
+  return StoreInFile(key, name, text);
+}
+std::optional<std::string> StoredText(std::int32_t, std::string_view key, std::string_view name) {
+  return TextInFile(key, name);
+}
+#endif
+
+}  // namespace brolk
