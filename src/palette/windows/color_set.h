@@ -10,18 +10,23 @@
 #include "forms/lists.h"
 #include "forms/picture.h"
 #include "forms/text_box.h"
+#include "palette/rom_palette.h"
 
 namespace brolk {
 
-// The list of named palettes.
+// The list of named palettes beside the live one, and the palettes inside the open file.
 class ColorSet final : public Form {
  public:
   ColorSet();
 
+  // Changes one colour of a set and shows the selected set. Either index outside 0..255 is the subscript
+  // fault.
   void SetColor(std::int16_t setIndex, std::int16_t colorIndex, std::int32_t color);
-  // Fills cboPaletteType with the storage formats.
+  // Fills the storage formats and their list, and selects the first.
   void SetPaletteFormats();
+  // Fills the list anew, no line is highlighted afterwards; then shows the selected set.
   void RefreshSetList();
+  // Paints the selected set and shows its name. An empty list leaves picture and name as they are.
   void ShowSelectedSet();
 
   void Form_Load() override;
@@ -49,6 +54,26 @@ class ColorSet final : public Form {
   FlatButton fbnPalOut{*this, "fbnPalOut", "palette-out", "Save the selected palette to the given address"};
   FlatButton fbnClose{*this, "fbnClose", "close", "Close Color Set Tool"};
   CommonDialog cdlColorSet{*this, "cdlColorSet"};
+
+ private:
+  void LayOut();
+  void ConnectListEvents();
+  void ConnectRomEvents();
+
+  void lstSets_Click();
+  void txtName_DblClick();
+  void fbnApplySet_Click();
+  void fbnAddSet_Click();
+  void fbnDeleteSet_MouseDown(int button);
+  void fbnRandomPal_Click();
+  void picColor_MouseDown(float x, float y);
+  void fbnPalIn_Click();
+  void fbnPalOut_Click();
+
+  void DeleteSelected();
+  void ClearAfterQuestion();
+  // The run of colours that the controls of the lower box name; the address becomes decimal in its field.
+  [[nodiscard]] RomPaletteRun RunFromControls();
 };
 
 }  // namespace brolk
