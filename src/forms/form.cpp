@@ -244,6 +244,11 @@ void Form::resizeEvent(QResizeEvent* event) {
   Form_Resize();
 }
 
+void Form::paintEvent(QPaintEvent* event) {
+  QWidget::paintEvent(event);
+  if (style_.kind != FormKind::Frame) PaintBackground(*this, QStringLiteral("background-tool"));
+}
+
 bool Form::event(QEvent* event) {
   if (style_.kind == FormKind::Free && event->type() == QEvent::WindowActivate) BecomeActive();
   if (style_.kind == FormKind::Free && event->type() == QEvent::WindowDeactivate) Form_Deactivate();

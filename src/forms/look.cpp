@@ -6,9 +6,17 @@
 #include <QFontDatabase>
 #include <QPainter>
 #include <QPalette>
+#include <QPixmapCache>
 #include <QProxyStyle>
 #include <QStyleFactory>
 #include <QSvgRenderer>
+#include <QWidget>
+
+// The pictures stand in a library, which the linker takes over only where it is asked for. The toolkit wants
+// this outside of any namespace.
+static void LinkPictures() {
+  Q_INIT_RESOURCE(icons);
+}
 
 namespace brolk {
 namespace {
@@ -104,7 +112,21 @@ QPixmap PicturePixmap(const QString& name, QSize sizePx, double scale) {
   return pixmap;
 }
 
+void PaintBackground(QWidget& widget, const QString& name) {
+  constexpr QSize kTilePx(64, 64);
+  const double scale = widget.devicePixelRatioF();
+  const QString key = QStringLiteral("%1@%2").arg(name).arg(scale);
+  QPixmap tile;
+  if (!QPixmapCache::find(key, &tile)) {
+    tile = PicturePixmap(name, kTilePx, scale);
+    QPixmapCache::insert(key, tile);
+  }
+  QPainter painter(&widget);
+  painter.drawTiledPixmap(widget.rect(), tile);
+}
+
 void ApplyLook(QApplication& application) {
+  LinkPictures();
   application.setStyle(new ProgramStyle);
   application.setPalette(ProgramPalette());
   application.setFont(ProgramFont());

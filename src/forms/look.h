@@ -10,6 +10,7 @@
 #include "runtime/surface.h"
 
 class QApplication;
+class QWidget;
 
 namespace brolk {
 
@@ -32,6 +33,9 @@ inline constexpr ColorValue kInfoTextColor = 0xFFFF;
 [[nodiscard]] QIcon PictureIcon(const QString& name);
 // The same, drawn at a size in pixels for a screen of the given scale.
 [[nodiscard]] QPixmap PicturePixmap(const QString& name, QSize sizePx, double scale);
+
+// Covers a widget with a picture, laid side by side from its top left corner.
+void PaintBackground(QWidget& widget, const QString& name);
 
 // Sets style, font and colours for the whole program.
 void ApplyLook(QApplication& application);

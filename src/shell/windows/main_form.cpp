@@ -66,6 +66,7 @@ void MainForm::BuildInfoPanel() {
   for (Label* label : {&lblInfo, &lblAddress, &lblPosition, &lblColor}) {
     label->SetBorder();
     label->SetTextColor(kInfoTextColor);
+    label->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
   }
   lblPosition.SetCentered();
 }

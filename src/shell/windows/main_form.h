@@ -5,6 +5,7 @@
 #include <QMenuBar>
 #include <cstdint>
 
+#include "forms/background_panel.h"
 #include "forms/common_dialog.h"
 #include "forms/flat_button.h"
 #include "forms/form.h"
@@ -43,7 +44,7 @@ class MainForm final : public Form {
   void Form_KeyDown(int keyCode, int shift) override;
 
   // The toolbar.
-  QWidget picToolbar{this};
+  BackgroundPanel picToolbar{*this, "picToolbar", "background-toolbar"};
   FlatButton fbnBrowser{picToolbar, "fbnBrowser", "browser", "Show/Hide the Browser and its controls",
                         FlatButton::Kind::Toggle};
   FlatButton fbnEditor{picToolbar, "fbnEditor", "editor", "Show/Hide the Editor and its controls",

@@ -48,7 +48,6 @@ void ShowFileInfo() {
 }  // namespace
 
 void MainForm::BuildToolbar() {
-  picToolbar.setObjectName(QStringLiteral("picToolbar"));
   picToolbar.setFixedHeight(PixelsFromTwips(kToolbarHeight));
   const auto showTools = [this] { UpdateToolWindows(); };
   const struct {
