@@ -5,6 +5,9 @@
 #include <QKeyEvent>
 #include <QMdiArea>
 #include <QMdiSubWindow>
+#include <algorithm>
+#include <tuple>
+#include <vector>
 
 #include "forms/flat_button.h"
 #include "forms/keys.h"
@@ -13,6 +16,9 @@
 
 namespace brolk {
 namespace {
+
+// Controls whose centres are this near in height stand on one line.
+constexpr int kTabLinePx = 14;
 
 Form* activeForm = nullptr;
 QMdiArea* childArea = nullptr;
@@ -177,9 +183,33 @@ bool Form::Visible() const {
 
 void Form::Show() {
   if (Visible()) return;
+  if (!tabOrderArranged_) ArrangeTabOrder();
   Outer()->show();
   if (childFrame_ != nullptr) childArea->setActiveSubWindow(childFrame_);
   BecomeActive();
+}
+
+void Form::ArrangeTabOrder() {
+  tabOrderArranged_ = true;
+  struct Stop {
+    int line;
+    int left;
+    QWidget* control;
+  };
+  std::vector<Stop> stops;
+  for (QWidget* control : findChildren<QWidget*>()) {
+    if ((control->focusPolicy() & Qt::TabFocus) == 0 || childArea == control ||
+        control->focusProxy() != nullptr)
+      continue;
+    if (childArea != nullptr && childArea->isAncestorOf(control) && !childArea->isAncestorOf(this)) continue;
+    const QPoint center = control->mapTo(this, control->rect().center());
+    stops.push_back({center.y() / kTabLinePx, center.x(), control});
+  }
+  std::stable_sort(stops.begin(), stops.end(), [](const Stop& a, const Stop& b) {
+    return std::tie(a.line, a.left) < std::tie(b.line, b.left);
+  });
+  for (std::size_t next = 1; next < stops.size(); ++next)
+    setTabOrder(stops[next - 1].control, stops[next].control);
 }
 
 void Form::Hide() {

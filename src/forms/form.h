@@ -102,6 +102,8 @@ class Form : public QWidget {
 
  private:
   void MakeChildFrame();
+  // Tab visits the controls line by line, each line from left to right.
+  void ArrangeTabOrder();
   [[nodiscard]] const QWidget* Outer() const;
   [[nodiscard]] QWidget* Outer();
   [[nodiscard]] QRect OuterRect() const;
@@ -110,6 +112,7 @@ class Form : public QWidget {
 
   FormStyle style_;
   QMdiSubWindow* childFrame_ = nullptr;
+  bool tabOrderArranged_ = false;
 };
 
 // Puts a control on a window: position and size in twips.
