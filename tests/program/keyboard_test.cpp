@@ -79,8 +79,9 @@ TEST_P(Keyboard, EveryButtonTextAndListIsReachedByTab) {
     if (TakesKeys(*at) && std::ranges::count(OwnControls(*window), at) == 1) met.push_back(at);
   } while (at != window);
   for (QWidget* control : OwnControls(*window)) {
-    if (TakesKeys(*control))
+    if (TakesKeys(*control)) {
       EXPECT_EQ(std::ranges::count(met, control), 1) << control->objectName().toStdString();
+    }
   }
 }
 
