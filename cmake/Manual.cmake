@@ -20,11 +20,7 @@ find_program(CHMCMD_EXECUTABLE chmcmd)
 find_program(RSVG_CONVERT_EXECUTABLE rsvg-convert)
 mark_as_advanced(PANDOC_EXECUTABLE CHMCMD_EXECUTABLE RSVG_CONVERT_EXECUTABLE)
 
-if(PANDOC_EXECUTABLE)
-  option(BROLK_BUILD_MANUAL "Build the manual with pandoc" ON)
-else()
-  option(BROLK_BUILD_MANUAL "Build the manual with pandoc" OFF)
-endif()
+option(BROLK_BUILD_MANUAL "Build the manual, if pandoc is there" ON)
 
 # Reads chapters.txt: <out> = chapter names in reading order.
 function(brolk_manual_chapters out)
@@ -233,6 +229,8 @@ if(TARGET manual AND BROLK_BUILD_TESTS)
   add_test(NAME Manual.TellsEveryKeyAndCaption
            COMMAND "${CMAKE_COMMAND}" "-DSOURCE_DIR=${BROLK_MANUAL_SOURCE_DIR}" -P
                    "${BROLK_MANUAL_SOURCE_DIR}/tests/check_captions.cmake")
+  add_test(NAME Manual.TellsEveryTextOfTheProgram
+           COMMAND sh "${BROLK_MANUAL_SOURCE_DIR}/tests/check_program_texts.sh" "${CMAKE_SOURCE_DIR}")
   add_test(NAME Manual.ManPageIsClean
            COMMAND sh "${BROLK_MANUAL_SOURCE_DIR}/tests/check_man.sh"
                    "${BROLK_MANUAL_DIR}/man/brolkplus.1")
