@@ -9,7 +9,7 @@ ROOT = pathlib.Path(__file__).resolve().parent.parent / "src"
 ALLOWED = {
     "runtime": {"runtime"},
     "tile": {"runtime", "tile", "editor/slots.h"},
-    "palette": {"runtime", "palette", "tile", "importers"},
+    "palette": {"runtime", "palette", "tile"},
     "browser": {"runtime", "tile", "palette", "browser"},
     "editor": {"runtime", "tile", "palette", "editor"},
     "exchange": {"runtime", "tile", "palette", "editor", "exchange"},

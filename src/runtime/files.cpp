@@ -6,8 +6,10 @@
 #include <sys/types.h>
 
 #include <algorithm>
+#include <cerrno>
 #include <filesystem>
 #include <limits>
+#include <system_error>
 #include <unordered_map>
 
 #include "runtime/fault.h"
@@ -36,6 +38,7 @@ std::unordered_map<std::int16_t, OpenEntry>& Table() {
 std::int32_t nextHandle = 1;
 std::int64_t readCalls = 0;
 std::int64_t callsUntilFailure = -1;
+std::error_code openError;
 
 std::filesystem::path NativePath(std::string_view path) {
   return std::filesystem::path(std::u8string(path.begin(), path.end()));
@@ -110,13 +113,20 @@ int FlagsOf(int style) {
 
 std::int16_t OpenFile(std::string_view path, int style) {
   if ((style & kOpenExist) != 0) return IsExistingFile(path) ? 0 : -1;
-  if (path.empty() || nextHandle > std::numeric_limits<std::int16_t>::max()) return -1;
-  if ((style & kOpenCreate) == 0 && !IsExistingFile(path)) return -1;
+  openError = std::make_error_code(std::errc::no_such_file_or_directory);
+  if (path.empty() || ((style & kOpenCreate) == 0 && !IsExistingFile(path))) return -1;
+  openError = std::make_error_code(std::errc::too_many_files_open);
+  if (nextHandle > std::numeric_limits<std::int16_t>::max()) return -1;
   const int descriptor = OpenDescriptor(path, FlagsOf(style));
+  openError = std::error_code(errno, std::generic_category());
   if (descriptor < 0) return -1;
   const auto handle = static_cast<std::int16_t>(nextHandle++);
   Table()[handle] = OpenEntry{descriptor};
   return handle;
+}
+
+std::string OpenErrorText() {
+  return openError.message();
 }
 
 std::int32_t _llseek(std::int16_t handle, std::int32_t offset, int origin) {

@@ -31,6 +31,9 @@ inline constexpr int kAttributeArchive = 32;
 // other file.
 [[nodiscard]] std::int16_t OpenFile(std::string_view path, int style);
 
+// Why the OpenFile before this call failed, in the platform's words. Means nothing after one that went well.
+[[nodiscard]] std::string OpenErrorText();
+
 // Moves the position of a handle to `offset` bytes from the start (kFromStart) or from the present position
 // (kFromHere). Answers the new position (its low 32 bits), or -1: the handle is not open or the place is
 // negative, and the position stays.

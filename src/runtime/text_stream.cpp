@@ -19,6 +19,9 @@ TextReader::TextReader(std::string_view path) : handle_(OpenFile(path, kOpenRead
   }
 }
 
+TextReader::TextReader(std::span<const std::uint8_t> bytes)
+    : handle_(-1), content_(bytes.begin(), bytes.end()) {}
+
 TextReader::~TextReader() {
   Close();
 }

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -14,6 +15,8 @@ class TextReader final {
  public:
   // Opens the file (path in UTF-8). A file that cannot be opened is the file fault.
   explicit TextReader(std::string_view path);
+  // Reads lines from bytes in memory.
+  explicit TextReader(std::span<const std::uint8_t> bytes);
   ~TextReader();
   TextReader(const TextReader&) = delete;
   TextReader& operator=(const TextReader&) = delete;
