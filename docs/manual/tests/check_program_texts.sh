@@ -12,8 +12,9 @@ work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
 
 # String literals, halves on two lines joined, filters of file dialogs split, line breaks as blanks.
+# Names for screen readers are left out: they describe what the others see.
 find src -name '*.h' -o -name '*.cpp' | LC_ALL=C sort | xargs sed 's|^ *//.*||; /^ *#/d' |
-  tr '\n' ' ' | sed 's/" *"//g' | grep -oE '"([^"\\]|\\.)*"' |
+  tr '\n' ' ' | sed 's/" *"//g; s/setAccessibleName([^"]*"[^"]*"//g' | grep -oE '"([^"\\]|\\.)*"' |
   sed 's/^"//; s/"$//; s/\\[rn]/ /g; s/\\"/"/g; s/\\\\/\\/g; s/  */ /g' |
   tr '|' '\n' | sed 's/ (\*.*)$//; s/^ *//; s/ *$//' |
   grep -E "[A-Za-z0-9,.:!?'] +[A-Za-z0-9('<]" | LC_ALL=C sort -u >"$work/program"

@@ -204,7 +204,7 @@ void ColorSet::fbnPalIn_Click() {
 void ColorSet::fbnPalOut_Click() {
   if (!ConfirmSave()) return;
   if (WriteRomPalette(hFile, RunFromControls())) return;
-  ShowMsgBox(QStringLiteral("Sorry, not yet implemented ^_^;;"), kMsgInformation,
+  ShowMsgBox(QStringLiteral("Sorry, not yet implented ^_^;;"), kMsgInformation,
              QStringLiteral("Future feature"));
 }
 
