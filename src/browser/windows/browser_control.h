@@ -17,19 +17,25 @@ class BrowserControl final : public Form {
  public:
   BrowserControl();
 
+  // button 1 asks for a file, 2 opens the first recent one, any other does nothing.
   void fbnOpenFile_MouseDown(int button, int shift, float x, float y);
   void fbnCloseFile_Click();
   void fbnFileInfo_Click();
   void fbnBrowserZoomIn_Click();
   void fbnBrowserZoomOut_Click();
   void fbnGrid_Click();
+  // Goes to the number in the address box. No guard on an open file: an empty file is the division fault.
   void fbnGoToAddress_Click();
   // The click of cboMode.
   void ChangeMode();
+  // Depth and tile bytes of Bitmap Mode for the present tile size.
   void CalculateBitmapMode();
+  // The same on entering Bitmap Mode, by another formula. The tile becomes square, and the two page size bars
+  // get the range that fits the surface, which can move them.
   void FormatBitmapMode();
 
   void Form_Load() override;
+  void Form_KeyDown(int keyCode, int shift) override;
 
   Label lblFile{*this, "lblFile", "File"};
   FlatButton fbnOpenFile{*this, "fbnOpenFile", "open", "Left: Open Dialog | Right: open last opened Rom"};
@@ -65,6 +71,24 @@ class BrowserControl final : public Form {
   FlatButton fbnSeparator3{*this, "fbnSeparator3", "", "", FlatButton::Kind::Separator};
   FlatButton fbnSeparator4{*this, "fbnSeparator4", "", "", FlatButton::Kind::Separator};
   FlatButton fbnSeparator5{*this, "fbnSeparator5", "", "", FlatButton::Kind::Separator};
+
+ private:
+  void LayOut();
+  void Dress();
+  void ConnectFile();
+  void ConnectPage();
+  void ConnectBitmap();
+
+  void fbnOpenRecent_Click();
+  void fbnFavorite_Click();
+  void fbnColorSet_Click();
+  void hsbDiv_Change();
+  void hsbRows_Change();
+  void hsbLines_Change();
+  void hsbBitmapWidth_Change();
+  void hsbBitmapHeight_Change();
+  // The change handler of the list of depths. A drop-down list never raises it; the two bitmap bars run it.
+  void cboBitmapMode_Change();
 };
 
 }  // namespace brolk
