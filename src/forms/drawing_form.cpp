@@ -1,12 +1,15 @@
 // SPDX-License-Identifier: MIT
 #include "forms/drawing_form.h"
 
+#include <QCoreApplication>
 #include <QMouseEvent>
 #include <QPaintEvent>
 #include <QPainter>
+#include <QWheelEvent>
 
 #include "forms/keys.h"
 #include "forms/picture.h"
+#include "forms/scroll_bar.h"
 
 namespace brolk {
 
@@ -57,6 +60,17 @@ void DrawingForm::mouseDoubleClickEvent(QMouseEvent* event) {
   // The second press of a double click raises the double click alone.
   if (event->button() == Qt::LeftButton && Form_DblClick()) return;
   mousePressEvent(event);
+}
+
+void DrawingForm::wheelEvent(QWheelEvent* event) {
+  event->accept();
+  if (wheeling_) return;
+  wheeling_ = true;
+  const Qt::Orientation direction = event->angleDelta().y() != 0 ? Qt::Vertical : Qt::Horizontal;
+  for (ScrollBar* bar : findChildren<ScrollBar*>()) {
+    if (bar->orientation() == direction && bar->isVisible()) QCoreApplication::sendEvent(bar, event);
+  }
+  wheeling_ = false;
 }
 
 }  // namespace brolk

@@ -31,10 +31,14 @@ class DrawingForm : public Form {
   void mouseMoveEvent(QMouseEvent* event) override;
   void mouseReleaseEvent(QMouseEvent* event) override;
   void mouseDoubleClickEvent(QMouseEvent* event) override;
+  // The wheel moves the window's scroll bar of its direction.
+  void wheelEvent(QWheelEvent* event) override;
 
  private:
   Surface canvas_;
   ColorValue backColor_;
+  // A wheel event is with a scroll bar; a bar at its end hands it back to its window.
+  bool wheeling_ = false;
 };
 
 }  // namespace brolk

@@ -2,9 +2,11 @@
 #include "forms/form.h"
 
 #include <QCloseEvent>
+#include <QCoreApplication>
 #include <QKeyEvent>
 #include <QMdiArea>
 #include <QMdiSubWindow>
+#include <QResizeEvent>
 #include <algorithm>
 #include <tuple>
 #include <vector>
@@ -114,8 +116,18 @@ void Form::SetOuterRect(const QRect& rect) {
   if (fixed && Outer()->size() != size) Outer()->setFixedSize(size.expandedTo(QSize(1, 1)));
   if (!fixed) Outer()->resize(size.expandedTo(QSize(1, 1)));
   if (OuterRect().topLeft() != rect.topLeft()) Outer()->move(rect.topLeft());
-  // A hidden frame lays its window out only when it is shown; the window has its size at once.
-  if (childFrame_ != nullptr && childFrame_->isHidden()) resize(rect.size() - FrameExtent());
+  if (childFrame_ != nullptr && !isVisible()) TakeSizeWhileHidden();
+}
+
+// A hidden frame lays its window out only when it is shown; the window has its size, and its resize event, at
+// once.
+void Form::TakeSizeWhileHidden() {
+  const QSize before = size();
+  resize(childFrame_->size() - FrameExtent());
+  if (size() == before) return;
+  QResizeEvent event(size(), before);
+  QCoreApplication::sendEvent(this, &event);
+  setAttribute(Qt::WA_PendingResizeEvent, false);
 }
 
 double Form::Left() const {

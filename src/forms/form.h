@@ -102,6 +102,7 @@ class Form : public QWidget {
 
  private:
   void MakeChildFrame();
+  void TakeSizeWhileHidden();
   // Tab visits the controls line by line, each line from left to right.
   void ArrangeTabOrder();
   [[nodiscard]] const QWidget* Outer() const;

@@ -1,9 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "editor/windows/editor.h"
 
-#include <QCoreApplication>
 #include <QMdiSubWindow>
-#include <QWheelEvent>
 
 #include "browser/windows/browser.h"
 #include "editor/drawing.h"
@@ -211,16 +209,6 @@ void Editor::Form_KeyDown(int keyCode, int shift) {
     DrawEditorOverlay();
     Refresh();
   }
-}
-
-void Editor::wheelEvent(QWheelEvent* event) {
-  event->accept();
-  // A bar at its end hands the event back to its window.
-  if (wheeling_) return;
-  wheeling_ = true;
-  const bool across = event->angleDelta().y() == 0;
-  QCoreApplication::sendEvent(across ? &hsbEdit : &vsbEdit, event);
-  wheeling_ = false;
 }
 
 }  // namespace brolk

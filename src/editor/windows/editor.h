@@ -35,9 +35,6 @@ class Editor final : public DrawingForm {
   ScrollBar hsbEdit{Qt::Horizontal, *this, "hsbEdit", 0, 0, 0};
   ScrollBar vsbEdit{Qt::Vertical, *this, "vsbEdit", 0, 0, 0};
 
- protected:
-  void wheelEvent(QWheelEvent* event) override;
-
  private:
   void PointerEvent(int button, float x, float y);
   void ShowStatus(const EditorPlace& place);
@@ -51,8 +48,6 @@ class Editor final : public DrawingForm {
 
   // The pop-up menu has been shown for the right button that is still down.
   bool menuShown_ = false;
-  // A wheel event is with one of the scroll bars.
-  bool wheeling_ = false;
 };
 
 }  // namespace brolk

@@ -3,6 +3,7 @@
 
 #include "browser/windows/page_view.h"
 #include "editor/saving.h"
+#include "editor/slots.h"
 #include "editor/windows/edit.h"
 #include "editor/windows/editor.h"
 #include "editor/windows/tile_control.h"
@@ -38,9 +39,9 @@ EditorControl::EditorControl()
   PlaceButtons();
   fbnSelect.SetChecked(true);
   fbnEditorGrid.SetChecked(true);
-  fbnSelect.Click = [this] { SelectTool(kSelectTool); };
-  fbnPaint.Click = [this] { SelectTool(kPaintTool); };
-  fbnFill.Click = [this] { SelectTool(kFillTool); };
+  fbnSelect.Click = [] { The<MainForm>().ChooseTool(kSelectTool); };
+  fbnPaint.Click = [] { The<MainForm>().ChooseTool(kPaintTool); };
+  fbnFill.Click = [] { The<MainForm>().ChooseTool(kFillTool); };
   fbnEditorGrid.Click = [this] { fbnEditorGrid_Click(); };
   fbnNonCopied.Click = [this] { fbnNonCopied_Click(); };
   fbnSaveEdit.Click = [this] { fbnSaveEdit_Click(); };
@@ -63,17 +64,6 @@ void EditorControl::PlaceButtons() {
   };
   for (const auto& row : rows) Place(row.button, row.left, row.top, kButtonSide, kButtonSide);
   Place(fbnSeparator1, 120, 705, kClientWidth - 240, 60);
-}
-
-void EditorControl::SelectTool(EditTools tool) {
-  EditTool = tool;
-  fbnSelect.SetChecked(tool == kSelectTool);
-  fbnPaint.SetChecked(tool == kPaintTool);
-  fbnFill.SetChecked(tool == kFillTool);
-  MainForm& frame = The<MainForm>();
-  frame.mnuSelectMode.SetChecked(tool == kSelectTool);
-  frame.mnuPaintMode.SetChecked(tool == kPaintTool);
-  frame.mnuFillMode.SetChecked(tool == kFillTool);
 }
 
 void EditorControl::fbnEditorGrid_Click() {

@@ -3,7 +3,6 @@
 
 #include <cstdint>
 
-#include "editor/slots.h"
 #include "forms/flat_button.h"
 #include "forms/form.h"
 
@@ -13,10 +12,6 @@ namespace brolk {
 class EditorControl final : public Form {
  public:
   EditorControl();
-
-  // Switches the tool: EditTool, exactly one of the three tool buttons checked, and exactly one of the three
-  // menu items marked. Nothing is redrawn.
-  void SelectTool(EditTools tool);
 
   void fbnEditorGrid_Click();
   void fbnNonCopied_Click();

@@ -39,8 +39,7 @@ TileControl::TileControl()
   fbnRotate.Click = [this] { fbnRotate_Click(); };
 }
 
-// The box stands beneath the button that writes to its address. The keyboard goes through the controls in the
-// order of the rows.
+// The box stands beneath the button that writes to its address.
 void TileControl::PlaceControls() {
   const struct {
     QWidget& control;
@@ -57,12 +56,7 @@ void TileControl::PlaceControls() {
       {txtAddress, 120, 1920, kClientWidth - 240, 315},
       {lblHex, 120, 2310, kClientWidth - 240, 255},
   };
-  QWidget* previous = nullptr;
-  for (const auto& row : rows) {
-    Place(row.control, row.left, row.top, row.width, row.height);
-    if (previous != nullptr) setTabOrder(previous, &row.control);
-    previous = &row.control;
-  }
+  for (const auto& row : rows) Place(row.control, row.left, row.top, row.width, row.height);
 }
 
 void TileControl::Form_Load() {
