@@ -4,6 +4,7 @@
 #include <algorithm>
 
 #include "palette/palette_model.h"
+#include "runtime/byte_loop.h"
 #include "runtime/numbers.h"
 #include "tile/shared.h"
 
@@ -17,16 +18,6 @@ constexpr ColorValue kFrameColor = 0xFFFFFF;
 int Pixels(std::int64_t product) {
   constexpr std::int64_t kBeyond = 1 << 30;
   return static_cast<int>(std::clamp(product, -kBeyond, kBeyond));
-}
-
-// A counter of one byte from 0 to limit - 1. Both wrap, so a limit whose low byte is 0 is never reached.
-template <typename Body>
-void CountBytes(std::int16_t limit, Body body) {
-  const std::uint8_t last = WrapByte(limit - 1);
-  for (std::uint8_t counter = 0;; ++counter) {
-    body(counter);
-    if (counter == last && last != 255) return;
-  }
 }
 
 }  // namespace
