@@ -11,13 +11,14 @@ manual=docs/manual
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
 
-# String literals, halves on two lines joined, filters of file dialogs split, line breaks as blanks.
+# String literals, halves on two lines joined, split at the fields of filters and at places for
+# numbers, line breaks as blanks.
 # Names for screen readers are left out: they describe what the others see.
 find src -name '*.h' -o -name '*.cpp' | LC_ALL=C sort | xargs sed 's|^ *//.*||; /^ *#/d' |
   tr '\n' ' ' | sed 's/" *"//g; s/setAccessibleName([^"]*"[^"]*"//g' | grep -oE '"([^"\\]|\\.)*"' |
   sed 's/^"//; s/"$//; s/\\[rn]/ /g; s/\\"/"/g; s/\\\\/\\/g; s/  */ /g' |
-  tr '|' '\n' | sed 's/ (\*.*)$//; s/^ *//; s/ *$//' |
-  grep -E "[A-Za-z0-9,.:!?'] +[A-Za-z0-9('<]" | LC_ALL=C sort -u >"$work/program"
+  sed 's/%[1-9]/|/g' | tr '|' '\n' | sed 's/ (\*.*)$//; s/^ *//; s/ *$//' |
+  grep -E "[A-Za-z]{2,}[,.:!?']* +[A-Za-z0-9('<]" | LC_ALL=C sort -u >"$work/program"
 
 # The manual as its reader sees it: without marks, in one line.
 cat $manual/*.md | tr '\n' ' ' |
