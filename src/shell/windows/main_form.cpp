@@ -106,8 +106,8 @@ void MainForm::Form_Load() {
 
 void MainForm::Form_Resize() {
   if (isMinimized()) return;
-  const InfoPanelLayout layout = LayOutInfoPanel(ScaleWidth() * static_cast<double>(kTwipsPerPixel),
-                                                 static_cast<std::uint8_t>(kTwipsPerPixel));
+  const InfoPanelLayout layout =
+      LayOutInfoPanel(ScaleWidth() * static_cast<double>(kTwipsPerPixel), TwipsPerPixel);
   Place(lblInfo, layout.info.left, kInfoLabelTop, layout.info.width, kInfoLabelHeight);
   Place(lblAddress, layout.address.left, kInfoLabelTop, layout.address.width, kInfoLabelHeight);
   Place(lblPosition, layout.position.left, kInfoLabelTop, layout.position.width, kInfoLabelHeight);
@@ -154,9 +154,10 @@ void MainForm::FillRecentMenu() {
   }
 }
 
+// The frame has the keys of the Browser panel, so that a file can be opened while the keyboard is on the
+// frame itself.
 void MainForm::Form_KeyDown(int keyCode, int shift) {
-  if (shift == kControlKey && keyCode == 'O')
-    The<BrowserControl>().fbnOpenFile_MouseDown(kLeftButton, 0, 0, 0);
+  The<BrowserControl>().Form_KeyDown(keyCode, shift);
 }
 
 }  // namespace brolk

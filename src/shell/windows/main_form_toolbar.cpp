@@ -84,6 +84,7 @@ void MainForm::fbnHelp_Click() {
 }
 
 void MainForm::fbnOptions_Click() {
+  The<Options>().ShowColors();
   The<Options>().Show();
 }
 

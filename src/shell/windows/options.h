@@ -9,12 +9,25 @@
 
 namespace brolk {
 
-// Colours, switches, layout commands.
+// Colours, switches, layout commands. The two switches have no variable: the checked state of fbnSaveWarning
+// and fbnBenchmark is the setting. Closing the window by its frame unloads it, and the next reference makes a
+// fresh one whose switches stand as they were made, off and on.
 class Options final : public Form {
  public:
   Options();
 
+  // Gives the swatches the colours in use.
+  void ShowColors();
+
+  void fbnSaveNow_Click();
+  void fbnLoadNow_Click();
+  void fbnDefaultSettings_Click();
+  void fbnClearRecent_Click();
+  // Takes the swatches' colours into use and hides the window. Nothing is redrawn and nothing is stored.
+  void fbnOk_Click();
+
   void Form_Load() override;
+  void FrameClosed() override;
 
   Label lblColors{*this, "lblColors", "Colors"};
   Label lblGridColor{*this, "lblGridColor", "", "The grids will be displayed using this color"};
@@ -39,6 +52,11 @@ class Options final : public Form {
   FlatButton fbnClearRecent{*this, "fbnClearRecent", "clear-recent", "Clear recent files"};
   Label lblClearRecent{*this, "lblClearRecent", "Clear recent files"};
   FlatButton fbnOk{*this, "fbnOk", "face-ok", ""};
+
+ private:
+  void PlaceControls();
+  void DressLabels();
+  void WireCommands();
 };
 
 }  // namespace brolk
