@@ -186,6 +186,7 @@ QString Form::Caption() const {
 
 void Form::SetCaption(const QString& caption) {
   setWindowTitle(caption);
+  setAccessibleName(caption.isEmpty() ? objectName() : caption);
   if (childFrame_ != nullptr) childFrame_->setWindowTitle(caption);
 }
 
@@ -213,6 +214,7 @@ void Form::ArrangeTabOrder() {
     if ((control->focusPolicy() & Qt::TabFocus) == 0 || childArea == control ||
         control->focusProxy() != nullptr)
       continue;
+    if (control->window() != window()) continue;
     if (childArea != nullptr && childArea->isAncestorOf(control) && !childArea->isAncestorOf(this)) continue;
     const QPoint center = control->mapTo(this, control->rect().center());
     stops.push_back({center.y() / kTabLinePx, center.x(), control});

@@ -250,6 +250,20 @@ inline constexpr ControlRow kAboutControls[] = {
 };
 
 inline constexpr ControlRow kNewMsgBoxControls[] = {
+    {"imgOk", ControlKind::Label, "", ""},
+    {"imgCancel", ControlKind::Label, "", ""},
+    {"imgYes", ControlKind::Label, "", ""},
+    {"imgNo", ControlKind::Label, "", ""},
+    {"imgAbort", ControlKind::Label, "", ""},
+    {"imgRetry", ControlKind::Label, "", ""},
+    {"imgIgnore", ControlKind::Label, "", ""},
+    {"imgInfo", ControlKind::Label, "", ""},
+    {"imgExclamation", ControlKind::Label, "", ""},
+    {"imgQuestion", ControlKind::Label, "", ""},
+    {"imgCritical", ControlKind::Label, "", ""},
+    {"imgJa", ControlKind::Label, "", ""},
+    {"imgNein", ControlKind::Label, "", ""},
+    {"imgBlank", ControlKind::Label, "", ""},
     {"imgMsgBox", ControlKind::Label, "", ""},
     {"lblMsg", ControlKind::Label, "", ""},
     {"imgC1", ControlKind::Label, "", ""},

@@ -23,7 +23,8 @@ std::vector<QWidget*> OwnControls(Form& window) {
   std::vector<QWidget*> controls;
   for (QWidget* control : window.findChildren<QWidget*>()) {
     const QWidget* up = control->parentWidget();
-    bool own = !control->objectName().isEmpty() && !control->objectName().startsWith(QLatin1String("qt_"));
+    bool own = dynamic_cast<const Form*>(control) == nullptr && !control->objectName().isEmpty() &&
+               !control->objectName().startsWith(QLatin1String("qt_"));
     while (own && up != &window && up != nullptr) {
       own = dynamic_cast<const Form*>(up) == nullptr &&
             qobject_cast<const QAbstractScrollArea*>(up) == nullptr &&
