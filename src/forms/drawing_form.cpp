@@ -19,6 +19,13 @@ DrawingForm::DrawingForm(const FormStyle& style, ColorValue backColor) : Form(st
   canvas_.Resize(width(), height(), backColor_);
 }
 
+// A window that is not on the screen yet learns of its size only when it is shown, and may be drawn on
+// before.
+Surface& DrawingForm::Canvas() {
+  canvas_.Resize(width(), height(), backColor_);
+  return canvas_;
+}
+
 void DrawingForm::Form_MouseDown(int, int, float, float) {}
 void DrawingForm::Form_MouseMove(int, int, float, float) {}
 void DrawingForm::Form_MouseUp(int, int, float, float) {}
@@ -28,11 +35,11 @@ bool DrawingForm::Form_DblClick() {
 
 void DrawingForm::paintEvent(QPaintEvent* event) {
   QPainter painter(this);
-  painter.drawImage(event->rect(), ImageOver(canvas_), event->rect());
+  painter.drawImage(event->rect(), ImageOver(Canvas()), event->rect());
 }
 
 void DrawingForm::resizeEvent(QResizeEvent* event) {
-  canvas_.Resize(width(), height(), backColor_);
+  static_cast<void>(Canvas());
   Form::resizeEvent(event);
 }
 

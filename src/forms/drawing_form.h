@@ -13,7 +13,7 @@ class DrawingForm : public Form {
   DrawingForm(const FormStyle& style, ColorValue backColor);
 
   // The picture of the client area. Draw on it, then Refresh.
-  [[nodiscard]] Surface& Canvas() { return canvas_; }
+  [[nodiscard]] Surface& Canvas();
 
   // Pointer events: button bits, shift bits, position in pixels of the client area, also outside of it while
   // a button is held. A press and a move carry all the buttons that are down, a release the one that was let

@@ -8,6 +8,11 @@
 #include "forms/keys.h"
 
 namespace brolk {
+namespace {
+
+constexpr ColorValue kEmptyColor = 0xFFFFFF;
+
+}  // namespace
 
 QImage ImageOver(const Surface& surface) {
   return QImage(reinterpret_cast<const uchar*>(surface.Data()), surface.Width(), surface.Height(),
@@ -20,18 +25,20 @@ Picture::Picture(QWidget& parent, const char* name) : QWidget(&parent) {
   setAttribute(Qt::WA_OpaquePaintEvent);
 }
 
+// A control that is not on the screen yet learns of its size only when it is shown, and may be drawn on
+// before.
+Surface& Picture::Canvas() {
+  canvas_.Resize(width(), height(), kEmptyColor);
+  return canvas_;
+}
+
 void Picture::Refresh() {
   repaint();
 }
 
 void Picture::paintEvent(QPaintEvent* event) {
   QPainter painter(this);
-  painter.drawImage(event->rect(), ImageOver(canvas_), event->rect());
-}
-
-void Picture::resizeEvent(QResizeEvent* event) {
-  QWidget::resizeEvent(event);
-  canvas_.Resize(width(), height(), 0xFFFFFF);
+  painter.drawImage(event->rect(), ImageOver(Canvas()), event->rect());
 }
 
 void Picture::mousePressEvent(QMouseEvent* event) {

@@ -17,7 +17,8 @@ class Picture final : public QWidget {
  public:
   Picture(QWidget& parent, const char* name);
 
-  [[nodiscard]] Surface& Canvas() { return canvas_; }
+  // The picture, of the size of the control. Draw on it, then Refresh.
+  [[nodiscard]] Surface& Canvas();
   [[nodiscard]] int ScaleWidth() const { return width(); }
   [[nodiscard]] int ScaleHeight() const { return height(); }
   void Refresh();
@@ -28,7 +29,6 @@ class Picture final : public QWidget {
 
  protected:
   void paintEvent(QPaintEvent* event) override;
-  void resizeEvent(QResizeEvent* event) override;
   void mousePressEvent(QMouseEvent* event) override;
   void mouseMoveEvent(QMouseEvent* event) override;
 

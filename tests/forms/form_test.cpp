@@ -160,6 +160,13 @@ TEST_F(Forms, KeepTheirPictureWhenTheyGrow) {
   EXPECT_EQ(The<Child>().Canvas().GetPixel(299, 119), 0x0000FF) << "the back colour where it grew";
 }
 
+TEST_F(Forms, CanBeDrawnOnBeforeTheyAreShown) {
+  The<Child>().SetClientSize(300, 120);
+  The<Child>().Canvas().SetPixel(299, 119, 0x123456);
+  The<Child>().Show();
+  EXPECT_EQ(The<Child>().Canvas().GetPixel(299, 119), 0x123456);
+}
+
 TEST_F(Forms, ShowWhatWasDrawnOnThemAsRedGreenBlue) {
   The<Child>().Show();
   The<Child>().Canvas().Fill(0x332211);

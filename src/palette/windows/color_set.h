@@ -44,8 +44,8 @@ class ColorSet final : public Form {
   FlatButton fbnColorSetLoad{*this, "fbnColorSetLoad", "load-set", "Load the color sets"};
   FlatButton fbnColorSetSave{*this, "fbnColorSetSave", "save-set", "Save the color sets"};
   Label Label2{*this, "Label2", "Palette Import/Export"};
-  ComboList cboColorCount{*this, "cboColorCount", "Select how many colors you want to load or save"};
   ComboList cboPaletteType{*this, "cboPaletteType", "Selected the type of palette to load/save"};
+  ComboList cboColorCount{*this, "cboColorCount", "Select how many colors you want to load or save"};
   ComboList cboPaletteAddress{
       *this, "cboPaletteAddress",
       "Enter a color palette's address or select one after successfully searching for one",
