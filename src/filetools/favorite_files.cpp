@@ -71,14 +71,9 @@ FavoritesLoad LoadBinary(std::string_view path) {
 
 }  // namespace
 
-std::string_view ExtensionOf(std::string_view path) {
-  const std::size_t point = path.rfind('.');
-  return point == std::string_view::npos ? std::string_view() : path.substr(point + 1);
-}
-
 FavoritesLoad LoadFavoritesFile(std::string_view path) {
   if (OpenFile(path, kOpenExist) < 0) return FavoritesLoad::NotFound;
-  return ExtensionOf(path) == "favorites" ? LoadText(path) : LoadBinary(path);
+  return path.ends_with(".favorites") ? LoadText(path) : LoadBinary(path);
 }
 
 void SaveFavoritesFile(std::string_view path) {

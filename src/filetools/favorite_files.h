@@ -11,9 +11,6 @@ namespace brolk {
 // it.
 enum class FavoritesLoad { Done, NotFound, WrongTextHeader, WrongBinaryHeader };
 
-// What follows the last point of a path; a path without one has no extension.
-[[nodiscard]] std::string_view ExtensionOf(std::string_view path);
-
 // Reads a file as text if its extension is exactly "favorites", letter case included, and as the binary
 // format otherwise.
 //

@@ -38,12 +38,12 @@ class FavoriteFiles : public testing::Test {
   }
 };
 
-TEST_F(FavoriteFiles, ExtensionFollowsTheLastPoint) {
-  EXPECT_EQ(ExtensionOf("/a.b/c.favorites"), "favorites");
-  EXPECT_EQ(ExtensionOf("/a/x.tar.bmk"), "bmk");
-  EXPECT_EQ(ExtensionOf("/a/x."), "");
-  EXPECT_EQ(ExtensionOf("/a/favorites"), "");
-  EXPECT_EQ(ExtensionOf("/a.b/favorites"), "b/favorites");
+TEST_F(FavoriteFiles, ExtensionIsWhatFollowsTheLastPoint) {
+  const std::string text = TextFile("1", "5; x\r\n");
+  for (const char* name : {"a.favorites", "a.bmk.favorites", ".favorites", "a..favorites"})
+    EXPECT_EQ(LoadFavoritesFile(test::WriteRuleFile(name, text)), FavoritesLoad::Done) << name;
+  for (const char* name : {"favorites", "a.favorites.txt", "a.favorites.", "a.Favorites", "xfavorites"})
+    EXPECT_EQ(LoadFavoritesFile(test::WriteRuleFile(name, text)), FavoritesLoad::WrongBinaryHeader) << name;
 }
 
 TEST_F(FavoriteFiles, SaveWritesTheStatedLines) {

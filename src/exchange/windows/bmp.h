@@ -1,11 +1,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+// The start-up builds the header strings through this one include.
+#include "exchange/bitmap_file.h"  // IWYU pragma: export
+
 namespace brolk {
 
-// Builds the two fixed header strings of the picture file.
-void InitBmpHeader();
-// Asks for a 128 by 128 picture and reads it into palette and Editor.
+// Asks for a 128 by 128 picture and reads it into palette and Editor. There is no question before; the tile
+// tool is not told.
 void ImportBmp();
 // Asks for a name and writes the Editor as a picture.
 void ExportBmp();

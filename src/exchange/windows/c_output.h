@@ -3,6 +3,7 @@
 
 #include <cstdint>
 
+#include "exchange/c_source.h"
 #include "forms/common_dialog.h"
 #include "forms/flat_button.h"
 #include "forms/form.h"
@@ -18,7 +19,15 @@ class COutPut final : public Form {
  public:
   COutPut();
 
+  // Takes size and maxima from the two lists, shows the numbers and the plan. While one of the lists has no
+  // entry chosen the size stays.
+  void UpdateSpriteCounts();
+
   void Form_Load() override;
+
+  // Of one sprite, in pixels; 0 until both lists have an entry chosen.
+  std::uint8_t SpriteWidth = 0;
+  std::uint8_t SpriteHeight = 0;
 
   Label lblTileCon{*this, "lblTileCon", "Tile Converter"};
   Label lblSize{*this, "lblSize", "Tile size in pixel"};
@@ -45,6 +54,21 @@ class COutPut final : public Form {
   FlatButton fbnCCodePalette{*this, "fbnCCodePalette", "convert-palette", "Display palette to C code"};
   FlatButton fbnClose{*this, "fbnClose", "close", "Close Converter Tool"};
   CommonDialog cdlCOutPut{*this, "cdlCOutPut"};
+
+ private:
+  void LayOut();
+  void Dress();
+  void FillLists();
+  void ConnectEvents();
+
+  void fbnCCodeSprite_Click();
+  void fbnCCodePalette_Click();
+
+  // The path that the dialog gives, empty after a cancel.
+  [[nodiscard]] std::string AskPath();
+  [[nodiscard]] SpritePlan PlanFromControls() const;
+  // Shows a text at once, also while a run holds the thread.
+  void ShowAtOnce(const std::string& text);
 };
 
 }  // namespace brolk

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <cstdint>
+#include <string>
 
 #include "forms/common_dialog.h"
 #include "forms/flat_button.h"
@@ -17,6 +17,7 @@ class pattern final : public Form {
  public:
   pattern();
 
+  // Shows the descriptions in order; no line is selected afterwards.
   void RefreshPatternList();
 
   void Form_Load() override;
@@ -34,6 +35,23 @@ class pattern final : public Form {
   Label lblBmp{*this, "lblBmp", "Only apply new addresses but do not reload (for Bmp Import)."};
   FlatButton fbnClose{*this, "fbnClose", "close", "Close Editor Adress Patterns Tool"};
   CommonDialog cdlPattern{*this, "cdlPattern"};
+
+ private:
+  void LayOut();
+  void ConnectEvents();
+
+  void lstPat_Click();
+  void txtDescription_DblClick();
+  void fbnLoadPat_Click();
+  void fbnAddPat_Click();
+  void fbnDelPat_Click();
+  void fbnSave_Click();
+  void fbnLoad_Click();
+  void fbnRedraw_Click();
+  void fbnBmp_Click();
+
+  // The path that the dialog gives, empty after a cancel.
+  [[nodiscard]] std::string AskPath(void (CommonDialog::*show)());
 };
 
 }  // namespace brolk

@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <cstdint>
-
 #include "forms/common_dialog.h"
 #include "forms/flat_button.h"
 #include "forms/form.h"
@@ -34,6 +32,21 @@ class FavoritesTool final : public Form {
   ListBox lstFavorites{*this, "lstFavorites", "double-click a favorite to go to it"};
   FlatButton fbnClose{*this, "fbnClose", "close", "Close Favorites Tool"};
   CommonDialog cdlFavorite{*this, "cdlFavorite"};
+
+ private:
+  void LayOut();
+  void ConnectEvents();
+
+  void lstFavorites_Click();
+  void txtName_DblClick();
+  void fbnGotoFavorite_Click();
+  void fbnAddFavorite_Click();
+  void fbnDelFavorite_Click();
+  void fbnNewList_Click();
+  void fbnOrder_Click();
+  void lblOrder_Click();
+  void fbnLoadFavorite_Click();
+  void fbnSaveFavorite_Click();
 };
 
 }  // namespace brolk

@@ -14,7 +14,12 @@ class FileInfo final : public Form {
  public:
   FileInfo();
 
+  // Reads the open file anew and shows what it tells. A file that is not there, also the empty name of no
+  // file, is the file fault once name and size are shown.
   void DoReport();
+
+  std::int32_t RomChecksum = 0;  // the stored checksum as last read
+  std::int32_t RunningSum = 0;   // the sum of the last repair
 
   Label lblFile{*this, "lblFile", "File"};
   Label lblName{*this, "lblName", "Filename here"};
@@ -36,6 +41,15 @@ class FileInfo final : public Form {
   FlatButton fbnDoChecksum{*this, "fbnDoChecksum", "repair-checksum", "Repair checksum"};
   Label lblDoChecksum{*this, "lblDoChecksum", "Repair checksum - Gameboy/GB Color only!"};
   FlatButton fbnClose{*this, "fbnClose", "close", "Close File Info"};
+
+ private:
+  void LayOut();
+  void Dress();
+  // Puts the four images under the words of lblAttributes.
+  void PlaceAttributeImages();
+
+  void ShowAttributes(int attributes);
+  void fbnDoChecksum_Click();
 };
 
 }  // namespace brolk
