@@ -196,14 +196,16 @@ bool Form::Visible() const {
 
 void Form::Show() {
   if (Visible()) return;
-  if (!tabOrderArranged_) ArrangeTabOrder();
+  const bool first = !shownBefore_;
+  shownBefore_ = true;
+  if (first) ArrangeTabOrder();
   Outer()->show();
+  if (first) Form_Resize();
   if (childFrame_ != nullptr) childArea->setActiveSubWindow(childFrame_);
   BecomeActive();
 }
 
 void Form::ArrangeTabOrder() {
-  tabOrderArranged_ = true;
   struct Stop {
     int line;
     int left;

@@ -62,6 +62,7 @@ class Form : public QWidget {
 
   [[nodiscard]] bool Visible() const;
   // Shows the window; one that was hidden becomes the active one. Showing a visible window changes nothing.
+  // The first time raises Form_Resize, also when the window keeps its size.
   void Show();
   void Hide();
   // Makes the window the active one and gives it the keyboard.
@@ -85,6 +86,7 @@ class Form : public QWidget {
   virtual void Form_Load() {}
   virtual void Form_Activate() {}
   virtual void Form_Deactivate() {}
+  // A new size, at once also while the window is hidden, and the first show.
   virtual void Form_Resize() {}
   // KeyCode and Shift as in keys.h.
   virtual void Form_KeyDown(int keyCode, int shift);
@@ -113,7 +115,7 @@ class Form : public QWidget {
 
   FormStyle style_;
   QMdiSubWindow* childFrame_ = nullptr;
-  bool tabOrderArranged_ = false;
+  bool shownBefore_ = false;
 };
 
 // Puts a control on a window: position and size in twips.

@@ -90,6 +90,19 @@ TEST_F(Forms, TakeOuterSizesInTwipsWhileHiddenAndShown) {
   EXPECT_EQ(The<Child>().ScaleHeight(), 74);
 }
 
+TEST_F(Forms, RaiseAResizeAtOnceForANewSizeAndAtTheFirstShow) {
+  The<Child>().resizes = 0;
+  The<Child>().SetWidth(3000);
+  EXPECT_EQ(The<Child>().resizes, 1) << "while hidden";
+  The<Child>().Show();
+  EXPECT_EQ(The<Child>().resizes, 2);
+  The<Child>().Hide();
+  The<Child>().Show();
+  EXPECT_EQ(The<Child>().resizes, 2);
+  The<Child>().SetWidth(3030);
+  EXPECT_EQ(The<Child>().resizes, 3);
+}
+
 TEST_F(Forms, StandWhereTheyArePut) {
   The<Child>().SetLeft(2700);
   The<Child>().SetTop(30);

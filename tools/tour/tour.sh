@@ -15,6 +15,6 @@ mkdir -m 700 "$scratch/runtime"
 cp "$build/samples/sampler.gba" "$scratch/sampler.gba"
 env HOME="$scratch" XDG_RUNTIME_DIR="$scratch/runtime" XDG_CONFIG_HOME="$scratch" BROLKPLUS_SETTINGS="$scratch/settings" \
   QT_QPA_PLATFORM=xcb QT_SCALE_FACTOR=1 LIBGL_ALWAYS_SOFTWARE=1 \
-  xvfb-run -a -s "-screen 0 1280x1024x24" "$here/drive.sh" "$build/bin/brolkplus" "$scratch/sampler.gba" "$pictures"
+  xvfb-run -a -s "-screen 0 880x640x24" "$here/drive.sh" "$build/bin/brolkplus" "$scratch/sampler.gba" "$pictures"
 echo "The pictures of the tour are in $pictures:"
 ls "$pictures"
