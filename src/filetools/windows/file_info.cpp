@@ -11,9 +11,9 @@
 namespace brolk {
 namespace {
 
-constexpr double kClientWidth = 4560;
-constexpr double kClientHeight = 5055;
-constexpr double kImageTop = 2160;
+constexpr double kClientWidth = 4800;
+constexpr double kClientHeight = 4335;
+constexpr double kImageTop = 2100;
 constexpr int kImagePx = 32;
 
 }  // namespace
@@ -32,20 +32,20 @@ void FileInfo::LayOut() {
     QWidget& control;
     double left, top, width, height;
   } rows[] = {
-      {lblFile, 120, 75, 4320, 255},              //
-      {lblName, 120, 360, 4320, 480},             //
-      {lblLenghtInfo, 120, 960, 4320, 255},       //
-      {lblLength, 120, 1245, 4320, 255},          //
-      {lblAttributesInfo, 120, 1620, 4320, 255},  //
-      {lblAttributes, 120, 1905, 4320, 255},      //
-      {lblGameboy, 120, 2760, 4320, 255},         //
-      {lblID, 120, 3045, 2040, 255},              //
-      {lblRomName, 2220, 3045, 2220, 255},        //
-      {lblCrc, 120, 3360, 2040, 255},             //
-      {lblFileChecksum, 2220, 3360, 2220, 255},   //
-      {fbnDoChecksum, 120, 4425, 510, 510},
-      {lblDoChecksum, 720, 4425, 3090, 510},
-      {fbnClose, 3930, 4425, 510, 510},
+      {lblFile, 120, 75, 4560, 255},              //
+      {lblName, 120, 360, 4560, 480},             //
+      {lblLenghtInfo, 120, 930, 4560, 255},       //
+      {lblLength, 120, 1215, 4560, 255},          //
+      {lblAttributesInfo, 120, 1560, 4560, 255},  //
+      {lblAttributes, 120, 1845, 4560, 255},      //
+      {lblGameboy, 120, 2715, 4560, 255},         //
+      {lblID, 120, 3000, 2040, 255},              //
+      {lblRomName, 2220, 3000, 2460, 255},        //
+      {lblCrc, 120, 3285, 2040, 255},             //
+      {lblFileChecksum, 2220, 3285, 2460, 255},   //
+      {fbnDoChecksum, 120, 3705, 510, 510},       //
+      {lblDoChecksum, 720, 3705, 3330, 510},      //
+      {fbnClose, 4170, 3705, 510, 510},
   };
   for (const auto& row : rows) Place(row.control, row.left, row.top, row.width, row.height);
 }
