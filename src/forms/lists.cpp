@@ -84,4 +84,18 @@ void ListBox::keyPressEvent(QKeyEvent* event) {
   if (currentRow() != before && currentRow() >= 0) RaiseClick();
 }
 
+void ListBox::focusInEvent(QFocusEvent* event) {
+  const int before = currentRow();
+  QListWidget::focusInEvent(event);
+  if (currentRow() != before) setCurrentRow(before);
+}
+
+QItemSelectionModel::SelectionFlags ListBox::selectionCommand(const QModelIndex& index,
+                                                              const QEvent* event) const {
+  const auto flags = QListWidget::selectionCommand(index, event);
+  const bool takesBack =
+      flags.testFlag(QItemSelectionModel::Deselect) || flags.testFlag(QItemSelectionModel::Toggle);
+  return takesBack ? QItemSelectionModel::ClearAndSelect : flags;
+}
+
 }  // namespace brolk

@@ -53,6 +53,11 @@ class ListBox final : public QListWidget {
   void mouseDoubleClickEvent(QMouseEvent* event) override;
   void mouseMoveEvent(QMouseEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
+  // The keyboard's arrival selects no line.
+  void focusInEvent(QFocusEvent* event) override;
+  // A line that was chosen stays chosen until another one is: Ctrl does not take it back.
+  [[nodiscard]] QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex& index,
+                                                                     const QEvent* event) const override;
 
  private:
   void RaiseClick();

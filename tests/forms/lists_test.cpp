@@ -57,6 +57,24 @@ TEST_F(Lists, RaiseTheClickBeforeTheDoubleClick) {
   EXPECT_EQ(list.ListIndex(), 2);
 }
 
+TEST_F(Lists, TheKeyboardsArrivalSelectsNoLine) {
+  window.activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+  list.setFocus(Qt::TabFocusReason);
+  ASSERT_TRUE(list.hasFocus());
+  EXPECT_EQ(list.ListIndex(), -1);
+  QTest::keyClick(&list, Qt::Key_Down);
+  EXPECT_EQ(list.ListIndex(), 0);
+  EXPECT_EQ(clicks, 1);
+}
+
+TEST_F(Lists, AChosenLineStaysChosenUnderControl) {
+  QTest::mouseClick(list.viewport(), Qt::LeftButton, {}, At(1));
+  QTest::mouseClick(list.viewport(), Qt::LeftButton, Qt::ControlModifier, At(1));
+  EXPECT_EQ(list.ListIndex(), 1);
+  EXPECT_TRUE(list.item(1)->isSelected());
+}
+
 TEST_F(Lists, AreClearedInSilence) {
   QTest::mouseClick(list.viewport(), Qt::LeftButton, {}, At(1));
   list.Clear();
