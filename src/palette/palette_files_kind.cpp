@@ -4,12 +4,12 @@
 namespace brolk {
 namespace {
 
-bool SizeFits(const PaletteKind& kind, std::int64_t lengthBytes) {
+bool SizeFits(const PaletteKind& kind, const ByteReader& reader) {
   switch (kind.sizeTest) {
     case SizeTest::Exactly:
-      return lengthBytes == kind.sizeBytes;
+      return reader.Length() == kind.sizeBytes;
     case SizeTest::Above:
-      return lengthBytes > kind.sizeBytes;
+      return reader.Length() > kind.sizeBytes;
     case SizeTest::None:
       break;
   }
@@ -29,7 +29,7 @@ bool SignatureFits(std::string_view signature, ByteReader& reader) {
 }  // namespace
 
 std::optional<Notice> Refusal(const PaletteKind& kind, ByteReader& reader) {
-  if (!SizeFits(kind, reader.Length())) {
+  if (!SizeFits(kind, reader)) {
     if (kind.wrongSizeStaysOpen) reader.Abandon();
     return kind.wrongSize;
   }
