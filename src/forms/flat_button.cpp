@@ -80,6 +80,7 @@ void FlatButton::paintEvent(QPaintEvent*) {
   }
   PaintFrame(painter);
   PaintFace(painter);
+  if (hasFocus()) PaintFocus(painter);
 }
 
 void FlatButton::PaintFrame(QPainter& painter) const {
@@ -97,11 +98,13 @@ void FlatButton::PaintFrame(QPainter& painter) const {
     painter.setBrush(QColor(255, 255, 255, 120));
     painter.drawRoundedRect(frame, kCornerPx, kCornerPx);
   }
-  if (hasFocus()) {
-    painter.setPen(QPen(ScreenColor(kLabelColor), 1, Qt::DotLine));
-    painter.setBrush(Qt::NoBrush);
-    painter.drawRoundedRect(frame.adjusted(1.5, 1.5, -1.5, -1.5), kCornerPx, kCornerPx);
-  }
+}
+
+// Over the face, which may fill the whole button.
+void FlatButton::PaintFocus(QPainter& painter) const {
+  painter.setPen(QPen(ScreenColor(kLabelColor), 1, Qt::DotLine));
+  painter.setBrush(Qt::NoBrush);
+  painter.drawRoundedRect(QRectF(rect()).adjusted(2, 2, -2, -2), kCornerPx, kCornerPx);
 }
 
 void FlatButton::PaintFace(QPainter& painter) const {

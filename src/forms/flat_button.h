@@ -54,6 +54,7 @@ class FlatButton final : public QAbstractButton {
  private:
   void PaintFace(class QPainter& painter) const;
   void PaintFrame(class QPainter& painter) const;
+  void PaintFocus(class QPainter& painter) const;
 
   Kind kind_;
   QString picture_;

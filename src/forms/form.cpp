@@ -34,7 +34,7 @@ Qt::WindowFlags FlagsOf(const FormStyle& style) {
     case FormKind::Child:
       return Qt::SubWindow | buttons;
     case FormKind::Free:
-      return Qt::Window | buttons;
+      return Qt::Dialog | buttons;
   }
   return Qt::Window;
 }
@@ -117,6 +117,19 @@ void Form::SetOuterRect(const QRect& rect) {
   if (!fixed) Outer()->resize(size.expandedTo(QSize(1, 1)));
   if (OuterRect().topLeft() != rect.topLeft()) Outer()->move(rect.topLeft());
   if (childFrame_ != nullptr && !isVisible()) TakeSizeWhileHidden();
+  if (childFrame_ == nullptr && !fixed && !isVisible()) {
+    wantedOuterSize_ = rect.size();
+    assumedExtent_ = FrameExtent();
+  }
+}
+
+void Form::KeepOuterSize() {
+  if (!wantedOuterSize_.isValid() || !isVisible()) return;
+  const QSize extent = FrameExtent();
+  if (extent == assumedExtent_) return;
+  const QSize client = wantedOuterSize_ - extent;
+  wantedOuterSize_ = QSize();
+  if (!isMaximized() && !isMinimized()) resize(client);
 }
 
 // A hidden frame lays its window out only when it is shown; the window has its size, and its resize event, at
@@ -181,13 +194,15 @@ void Form::SetClientSize(int widthPx, int heightPx) {
 }
 
 QString Form::Caption() const {
-  return windowTitle();
+  return caption_;
 }
 
 void Form::SetCaption(const QString& caption) {
-  setWindowTitle(caption);
+  caption_ = caption;
+  // Some window systems put the program's file name where no title stands.
+  setWindowTitle(caption.isEmpty() ? QStringLiteral(" ") : caption);
+  if (childFrame_ != nullptr) childFrame_->setWindowTitle(windowTitle());
   setAccessibleName(caption.isEmpty() ? objectName() : caption);
-  if (childFrame_ != nullptr) childFrame_->setWindowTitle(caption);
 }
 
 bool Form::Visible() const {
@@ -298,7 +313,9 @@ void Form::paintEvent(QPaintEvent* event) {
 bool Form::event(QEvent* event) {
   if (style_.kind == FormKind::Free && event->type() == QEvent::WindowActivate) BecomeActive();
   if (style_.kind == FormKind::Free && event->type() == QEvent::WindowDeactivate) Form_Deactivate();
-  return QWidget::event(event);
+  const bool handled = QWidget::event(event);
+  KeepOuterSize();
+  return handled;
 }
 
 bool Form::eventFilter(QObject* watched, QEvent* event) {

@@ -112,10 +112,18 @@ class Form : public QWidget {
   [[nodiscard]] QRect OuterRect() const;
   void SetOuterRect(const QRect& rect);
   [[nodiscard]] QSize FrameExtent() const;
+  // A window system that frames a window once it is shown adds the frame to the size that was set before:
+  // takes it off again.
+  void KeepOuterSize();
 
   FormStyle style_;
+  QString caption_;
   QMdiSubWindow* childFrame_ = nullptr;
   bool shownBefore_ = false;
+  // Set while the frame of a window whose outer size counts is not known yet: that size, and the frame that
+  // was assumed.
+  QSize wantedOuterSize_;
+  QSize assumedExtent_;
 };
 
 // Puts a control on a window: position and size in twips.

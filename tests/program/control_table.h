@@ -272,6 +272,20 @@ inline constexpr ControlRow kNewMsgBoxControls[] = {
     {"fbnButton1", ControlKind::Button, "", ""},
     {"fbnButton2", ControlKind::Button, "", ""},
     {"fbnButton3", ControlKind::Button, "", ""},
+    {"imgOk", ControlKind::Label, "", ""},
+    {"imgCancel", ControlKind::Label, "", ""},
+    {"imgYes", ControlKind::Label, "", ""},
+    {"imgNo", ControlKind::Label, "", ""},
+    {"imgAbort", ControlKind::Label, "", ""},
+    {"imgRetry", ControlKind::Label, "", ""},
+    {"imgIgnore", ControlKind::Label, "", ""},
+    {"imgInfo", ControlKind::Label, "", ""},
+    {"imgExclamation", ControlKind::Label, "", ""},
+    {"imgQuestion", ControlKind::Label, "", ""},
+    {"imgCritical", ControlKind::Label, "", ""},
+    {"imgJa", ControlKind::Label, "", ""},
+    {"imgNein", ControlKind::Label, "", ""},
+    {"imgBlank", ControlKind::Label, "", ""},
 };
 
 inline constexpr ControlRow kMainFormControls[] = {

@@ -46,6 +46,8 @@ About::About() : Form({"About", "", FormKind::Free, FormBorder::Fixed, 7485, 541
   setAccessibleName(QStringLiteral("About Brolk Plus"));
   PlaceControls();
   for (Label* label : {&lblVersion, &lblVoska, &lblTarn}) label->SetClick([this] { Hide(); });
+  // Nothing is picked out when the window comes up; Tab goes to the first control.
+  setFocus();
 }
 
 void About::PlaceControls() {

@@ -13,6 +13,9 @@
 namespace brolk {
 namespace {
 
+// Keeps the text of a label off the button that ends where the label starts.
+constexpr int kTextIndentPx = 4;
+
 bool Confirmed(const QString& question) {
   return ShowMsgBox(question, kMsgYesNo | kMsgQuestion, QStringLiteral("Please confirm")) == kAnswerYes;
 }
@@ -33,6 +36,7 @@ Options::Options() : Form({"Options", "Options", FormKind::Free, FormBorder::Fix
   WireCommands();
   fbnSaveWarning.SetChecked(true);
   fbnOk.setAccessibleName(QStringLiteral("OK"));
+  setFocus();
 }
 
 void Options::PlaceControls() {
@@ -45,7 +49,7 @@ void Options::PlaceControls() {
       {lblSelectionColor, 840, 240, 615, 375},
       {lblEmptyColor, 1560, 240, 615, 375},
       // One line high: the title shows its first word, the line below says the rest again.
-      {lblBenchmark, 608, 690, 1095, 225},
+      {lblBenchmark, 608, 720, 1095, 195},
       {fbnBenchmark, 120, 840, 360, 360},
       {lblMeasure, 480, 960, 1830, 225},
       {lblWarning1, 480, 1320, 1830, 225},
@@ -70,6 +74,7 @@ void Options::DressLabels() {
   for (Label* wrapped : {&lblBenchmark, &lblWarning, &lblSaveNow, &lblLoadNow, &lblDefaultSettings}) {
     wrapped->SetWrap();
   }
+  for (Label* beside : {&lblMeasure, &lblWarning1}) beside->setContentsMargins(kTextIndentPx, 0, 0, 0);
   for (Label* swatch : {&lblGridColor, &lblSelectionColor, &lblEmptyColor}) {
     swatch->SetBorder();
     swatch->SetClick([swatch] { PickColor(*swatch); });
