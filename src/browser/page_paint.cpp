@@ -2,6 +2,7 @@
 #include "browser/page_paint.h"
 
 #include <algorithm>
+#include <array>
 
 #include "palette/palette_model.h"
 #include "runtime/byte_loop.h"
@@ -20,13 +21,42 @@ int Pixels(std::int64_t product) {
   return static_cast<int>(std::clamp(product, -kBeyond, kBeyond));
 }
 
+constexpr int kSide = 8;
+
+// A page of 8 by 8 tiles that lies inside the surface: no counter wraps, no pixel is left out, no entry is
+// missing.
+bool IsPlainPage(const Surface& page) {
+  return TileWidth == kSide && TileHeight == kSide && MainRows > 0 && MainRows * kSide <= page.Width() &&
+         MainLines > 0 && MainLines * kSide <= page.Height() &&
+         std::int64_t{MainRows} * MainLines * kSide * kSide <= kPageBufferLast;
+}
+
+std::array<std::uint32_t, 256> PalettePixels() {
+  std::array<std::uint32_t, 256> pixels{};
+  std::ranges::transform(Palette, pixels.begin(), PixelOf);
+  return pixels;
+}
+
+void PaintPlainPage(Surface& page) {
+  const auto pixels = PalettePixels();
+  const std::uint8_t* entry = PageBuffer.All().data();
+  for (int line = 0; line < MainLines; ++line) {
+    for (int column = 0; column < MainRows; ++column) {
+      for (int y = 0; y < kSide; ++y) {
+        std::uint32_t* target = page.Row(line * kSide + y) + column * kSide;
+        for (int x = 0; x < kSide; ++x) target[x] = pixels[*entry++];
+      }
+    }
+  }
+}
+
 }  // namespace
 
 std::int16_t PageTileCount() {
   return Wrap16(MainRows * MainLines);
 }
 
-void PaintPagePixels(Surface& page) {
+void PaintPagePixelsExactly(Surface& page) {
   std::int32_t entry = 0;
   CountBytes(MainLines, [&](std::uint8_t line) {
     CountBytes(MainRows, [&](std::uint8_t column) {
@@ -38,6 +68,14 @@ void PaintPagePixels(Surface& page) {
       });
     });
   });
+}
+
+void PaintPagePixels(Surface& page) {
+  if (IsPlainPage(page)) {
+    PaintPlainPage(page);
+  } else {
+    PaintPagePixelsExactly(page);
+  }
 }
 
 void BlitPagePixels(Surface& target, const Surface& page) {

@@ -22,6 +22,10 @@ namespace brolk {
 // painted before stays.
 void PaintPagePixels(Surface& page);
 
+// The same pixel by pixel, in the stated order: what PaintPagePixels does for every page but the usual one of
+// 8 by 8 tiles inside the surface, which takes a shorter way.
+void PaintPagePixelsExactly(Surface& page);
+
 // Stretches the page's part of its surface over the target from 0, 0, MainZoom times enlarged, unsmoothed.
 void BlitPagePixels(Surface& target, const Surface& page);
 

@@ -5,6 +5,37 @@
 #include <cstring>
 
 namespace brolk {
+namespace {
+
+constexpr int kOutside = -1;
+
+// The source column of each target column from `first` up to `end`, counted from the left of the whole
+// rectangle of `width` columns; kOutside where the source has none.
+std::vector<int> SourcePlaces(int first, int end, int width, int sourceX, int sourceWidth, int sourceEnd) {
+  std::vector<int> places(static_cast<std::size_t>(end - first));
+  const std::int64_t start = static_cast<std::int64_t>(first) * sourceWidth;
+  std::int64_t place = sourceX + start / width;
+  std::int64_t rest = start % width;  // distance from the last source column in steps of 1 / width
+  for (int& target : places) {
+    target = place >= 0 && place < sourceEnd ? static_cast<int>(place) : kOutside;
+    for (rest += sourceWidth; rest >= width; rest -= width) ++place;
+  }
+  return places;
+}
+
+void PickPixels(const std::uint32_t* source, const std::vector<int>& columns, bool hasGaps,
+                std::uint32_t* target) {
+  if (!hasGaps) {
+    std::ranges::transform(columns, target, [source](int column) { return source[column]; });
+    return;
+  }
+  for (const int column : columns) {
+    if (column != kOutside) *target = source[column];
+    ++target;
+  }
+}
+
+}  // namespace
 
 ColorValue PackRgb(std::int32_t red, std::int32_t green, std::int32_t blue) {
   return std::min(red, 255) + std::min(green, 255) * 256 + std::min(blue, 255) * 65536;
@@ -43,36 +74,21 @@ void Surface::StretchBlt(int x, int y, int width, int height, const Surface& sou
   if (width <= 0 || height <= 0 || sourceWidth <= 0 || sourceHeight <= 0) return;
   const int left = std::max(x, 0);
   const int right = std::min(x + width, width_);
-  int paintedSourceRow = -1;
-  int paintedRow = -1;
-  for (int row = std::max(y, 0); row < std::min(y + height, height_) && left < right; ++row) {
+  if (left >= right) return;
+  const std::vector<int> columns =
+      SourcePlaces(left - x, right - x, width, sourceX, sourceWidth, source.width_);
+  const bool hasGaps = std::ranges::find(columns, kOutside) != columns.end();
+  int paintedSourceRow = kOutside;
+  int paintedRow = kOutside;
+  for (int row = std::max(y, 0); row < std::min(y + height, height_); ++row) {
     const int fromY = sourceY + static_cast<int>(static_cast<std::int64_t>(row - y) * sourceHeight / height);
     if (fromY < 0 || fromY >= source.height_) continue;
-    if (fromY == paintedSourceRow) {
+    if (fromY == paintedSourceRow && !hasGaps) {
       std::copy(Row(paintedRow) + left, Row(paintedRow) + right, Row(row) + left);
       continue;
     }
-    // One source pixel becomes a run of equal target pixels; `rest` is the distance to the next source pixel
-    // in steps of 1 / width.
-    std::uint32_t* target = Row(row);
-    std::int64_t step = static_cast<std::int64_t>(left - x) * sourceWidth;
-    int fromX = static_cast<int>(step / width);
-    int rest = static_cast<int>(step % width);
-    bool gaps = false;
-    for (int column = left; column < right; ++column) {
-      const int at = sourceX + fromX;
-      if (at >= 0 && at < source.width_) {
-        target[column] = source.pixels_[source.Offset(at, fromY)];
-      } else {
-        gaps = true;
-      }
-      rest += sourceWidth;
-      while (rest >= width) {
-        rest -= width;
-        ++fromX;
-      }
-    }
-    paintedSourceRow = gaps ? -1 : fromY;
+    PickPixels(source.Row(fromY), columns, hasGaps, Row(row) + left);
+    paintedSourceRow = fromY;
     paintedRow = row;
   }
 }
