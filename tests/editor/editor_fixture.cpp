@@ -37,6 +37,7 @@ std::string EditorFixture::Open(const std::string& name, const std::vector<std::
   }
   EXPECT_TRUE(FileOpen);
   EXPECT_EQ(GfxMode, mode);
+  editor().SetFocus();
   return path;
 }
 

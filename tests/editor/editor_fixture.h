@@ -31,7 +31,7 @@ class EditorFixture : public ::testing::Test {
   // The point of the client area in the middle of a pixel of a slot's tile, unscrolled.
   [[nodiscard]] static QPoint At(int column, int line, int pixelX = 0, int pixelY = 0);
 
-  // Opens a file of this test that holds these bytes, in the given mode.
+  // Opens a file of this test that holds these bytes, in the given mode, and goes back to the Editor.
   std::string Open(const std::string& name, const std::vector<std::uint8_t>& bytes, GraphicsMode mode);
 
   // What the status line says.
