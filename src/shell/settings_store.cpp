@@ -3,7 +3,7 @@
 
 #include <cstdlib>
 #include <fstream>
-#include <iterator>
+#include <sstream>
 #include <system_error>
 
 #include "shell/settings_file.h"
@@ -45,10 +45,16 @@ fs::path ConfigurationFolder() {
 }
 #endif
 
-SettingsTables ReadTables(const fs::path& path) {
+// The tables of the file, none in a file that is not there. No answer for one that is there and cannot be
+// read: what it holds must not be replaced.
+std::optional<SettingsTables> ReadTables(const fs::path& path) {
+  std::error_code error;
+  if (!fs::exists(path, error)) return SettingsTables();
   std::ifstream file(path, std::ios::binary);
-  const std::string content(std::istreambuf_iterator<char>(file), {});
-  return SettingsTables::Parse(content);
+  std::ostringstream content;
+  if (file.peek() != std::ifstream::traits_type::eof()) content << file.rdbuf();
+  if (!file.is_open() || file.bad() || content.fail()) return std::nullopt;
+  return SettingsTables::Parse(content.str());
 }
 
 // Puts the whole content beside the file and then in its place, so that a reader, or a run that dies
@@ -77,14 +83,15 @@ StoreResult StoreInFile(std::string_view key, std::string_view name, std::string
   std::error_code error;
   if (path.has_parent_path()) fs::create_directories(path.parent_path(), error);
   if (error) return {kStoreAccessDenied, kStoreInvalidHandle};
-  SettingsTables tables = ReadTables(path);
-  tables.Set(key, name, text);
-  return {kStoreSuccess, ReplaceContent(path, tables.Text()) ? kStoreSuccess : kStoreAccessDenied};
+  std::optional<SettingsTables> tables = ReadTables(path);
+  if (!tables) return {kStoreSuccess, kStoreAccessDenied};
+  tables->Set(key, name, text);
+  return {kStoreSuccess, ReplaceContent(path, tables->Text()) ? kStoreSuccess : kStoreAccessDenied};
 }
 
 std::optional<std::string> TextInFile(std::string_view key, std::string_view name) {
-  const SettingsTables tables = ReadTables(SettingsFile());
-  const SettingsValue* value = tables.Find(key, name);
+  const std::optional<SettingsTables> tables = ReadTables(SettingsFile());
+  const SettingsValue* value = tables ? tables->Find(key, name) : nullptr;
   if (value == nullptr) return std::nullopt;
   return value->text;
 }
