@@ -223,10 +223,12 @@ TEST_F(AddressPatterns, WrongMagicEmptiesTheList) {
   }
 }
 
+// Every length up to one record and a few bytes into the next, then the end of the second.
 TEST_F(AddressPatterns, EveryCutKeepsTheWholeRecords) {
   const std::string record = Bytes("abc\0") + AddressBlock(Bytes("\x10\x00\x00\x00"));
   const std::string whole = "BXA" + record + record;
   for (std::size_t length = 3; length <= whole.size(); ++length) {
+    if (length > record.size() + 12 && length < whole.size() - 5) continue;
     const std::string path = test::WriteRuleFile("cut.eap", whole.substr(0, length));
     ASSERT_EQ(LoadPatternFile(path), PatternLoad::Done);
     ASSERT_EQ(PatternCount, static_cast<int>((length - 3) / record.size())) << length;
