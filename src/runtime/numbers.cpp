@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "runtime/numbers.h"
 
+#include <array>
 #include <charconv>
 #include <cmath>
 #include <limits>
@@ -10,6 +11,8 @@
 
 namespace brolk {
 namespace {
+
+constexpr int kSignificantDigits = 15;
 
 template <typename Target>
 Target RoundInto(double value) {
@@ -62,7 +65,30 @@ double ReadDecimal(std::string_view text) {
   double value = 0;
   const auto result =
       std::from_chars(head.data(), head.data() + head.size(), value, std::chars_format::fixed);
-  return result.ec == std::errc::result_out_of_range ? std::numeric_limits<double>::infinity() : value;
+  if (result.ec != std::errc::result_out_of_range) return value;
+  // Too large, or too close to 0.
+  const bool isLarge = head.find_first_of("123456789") < head.find('.');
+  return isLarge ? std::numeric_limits<double>::infinity() : 0;
+}
+
+// A number as up to 15 significant digits d.ddd times 10 to the exponent, rounded, without trailing zeros and
+// sign.
+struct Decimal {
+  std::string digits;  // empty for 0
+  int exponent = 0;
+};
+
+Decimal DecimalOf(double value) {
+  std::array<char, 32> buffer{};
+  const auto result = std::to_chars(buffer.data(), buffer.data() + buffer.size(), std::fabs(value),
+                                    std::chars_format::scientific, kSignificantDigits - 1);
+  const std::string_view text(buffer.data(), static_cast<std::size_t>(result.ptr - buffer.data()));
+  const std::size_t mark = text.find('e');
+  Decimal decimal{std::string(text.substr(0, 1)) + std::string(text.substr(2, mark - 2))};
+  decimal.digits.erase(decimal.digits.find_last_not_of('0') + 1);
+  const std::size_t number = mark + (text[mark + 1] == '+' ? 2 : 1);
+  std::from_chars(text.data() + number, text.data() + text.size(), decimal.exponent);
+  return decimal;
 }
 
 }  // namespace
@@ -132,18 +158,20 @@ double Val(std::string_view text) {
 }
 
 std::string NumberText(double value) {
-  if (value == 0) return "0";
-  const int magnitude = static_cast<int>(std::floor(std::log10(std::fabs(value))));
-  const int decimals = magnitude >= 14 ? 0 : 14 - magnitude;
-  char buffer[512];
-  const auto result =
-      std::to_chars(buffer, buffer + sizeof buffer, value, std::chars_format::fixed, decimals);
-  std::string text(buffer, result.ptr);
-  if (text.find('.') != std::string::npos) {
-    text.erase(text.find_last_not_of('0') + 1);
-    if (text.back() == '.') text.pop_back();
+  if (!std::isfinite(value)) throw Fault(FaultKind::Overflow);
+  const Decimal decimal = DecimalOf(value);
+  if (decimal.digits.empty()) return "0";
+  const auto count = static_cast<int>(decimal.digits.size());
+  const int whole = decimal.exponent + 1;  // digits before the point
+  std::string text = decimal.digits;
+  if (whole <= 0) {
+    text.insert(0, "0." + std::string(static_cast<std::size_t>(-whole), '0'));
+  } else if (whole >= count) {
+    text.append(static_cast<std::size_t>(whole - count), '0');
+  } else {
+    text.insert(static_cast<std::size_t>(whole), ".");
   }
-  return text == "-0" ? "0" : text;
+  return value < 0 ? "-" + text : text;
 }
 
 std::string NumberText(std::int32_t value) {

@@ -39,7 +39,8 @@ namespace brolk {
 [[nodiscard]] double Val(std::string_view text);
 
 // A number as decimal text: a point as decimal sign, no grouping, no exponent, at most 15 significant digits,
-// a leading 0 before the point, no trailing zeros behind it.
+// a leading 0 before the point, no trailing zeros behind it. One too large for a real number is the overflow
+// fault.
 [[nodiscard]] std::string NumberText(double value);
 [[nodiscard]] std::string NumberText(std::int32_t value);
 
