@@ -49,6 +49,16 @@ void ComboList::SetListIndex(int index) {
   if (Click) Click();
 }
 
+void ComboList::keyPressEvent(QKeyEvent* event) {
+  // A letter with Ctrl is a command of the window, not the start of a line to look for.
+  const bool letter = event->key() >= Qt::Key_A && event->key() <= Qt::Key_Z;
+  if (letter && !isEditable() && event->modifiers() == Qt::ControlModifier) {
+    event->ignore();
+    return;
+  }
+  QComboBox::keyPressEvent(event);
+}
+
 ListBox::ListBox(QWidget& parent, const char* name, const QString& toolTip) : QListWidget(&parent) {
   setObjectName(QString::fromUtf8(name));
   setToolTip(toolTip);

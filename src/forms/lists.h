@@ -28,6 +28,9 @@ class ComboList final : public QComboBox {
   void SetText(const QString& text) { setEditText(text); }
 
   std::function<void()> Click;
+
+ protected:
+  void keyPressEvent(QKeyEvent* event) override;
 };
 
 // A list of lines. Click is any change of the current line by the user and any press on a line; where there

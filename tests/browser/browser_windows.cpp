@@ -44,12 +44,12 @@ std::vector<std::uint8_t> RampBytes(std::size_t count) {
 }
 
 void ChooseInList(ComboList& list, int position) {
-  QTest::mouseClick(&list, Qt::LeftButton);
-  QAbstractItemView& view = *list.view();
-  const QModelIndex index = list.model()->index(position, 0);
-  view.scrollTo(index);
-  QTest::mouseMove(view.viewport(), view.visualRect(index).center());
-  QTest::mouseClick(view.viewport(), Qt::LeftButton, {}, view.visualRect(index).center(), 400);
+  list.setFocus();
+  QTest::keyClick(&list, Qt::Key_F4);
+  QAbstractItemView& lines = *list.view();
+  QTest::keyClick(&lines, Qt::Key_Home);
+  for (int step = 0; step < position; ++step) QTest::keyClick(&lines, Qt::Key_Down);
+  QTest::keyClick(&lines, Qt::Key_Return);
 }
 
 void PressThumb(ScrollBar& bar) {
@@ -89,12 +89,23 @@ void ClickPage(int x, int y) {
   QTest::mouseClick(&The<Browser>(), Qt::LeftButton, {}, QPoint(x, y));
 }
 
+void DoubleClickPage(int x, int y) {
+  ClickPage(x, y);
+  QTest::mouseDClick(&The<Browser>(), Qt::LeftButton, {}, QPoint(x, y));
+  QTest::mouseRelease(&The<Browser>(), Qt::LeftButton, {}, QPoint(x, y));
+}
+
 void PressKeypad(int digit) {
   QTest::keyClick(&The<Browser>(), static_cast<Qt::Key>(Qt::Key_0 + digit), Qt::KeypadModifier);
 }
 
 void PressPageKey(int key, Qt::KeyboardModifiers modifiers) {
   QTest::keyClick(&The<Browser>(), static_cast<Qt::Key>(key), modifiers);
+}
+
+void BrowserWindows::SetUp() {
+  StartProgram();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&Frame()));
 }
 
 std::string BrowserWindows::OpenBytes(const std::string& name, const std::vector<std::uint8_t>& bytes) {

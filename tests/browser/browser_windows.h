@@ -33,7 +33,7 @@ enum ModePosition {
 // Bytes that differ from their neighbours and from those a page further on.
 [[nodiscard]] std::vector<std::uint8_t> RampBytes(std::size_t count);
 
-// A person's hands.
+// A person's hands. A line is chosen in the dropped list, with its keys.
 void ChooseInList(ComboList& list, int position);
 void PressThumb(ScrollBar& bar);
 // Moves a pressed thumb by some pixels along its bar.
@@ -44,15 +44,16 @@ void ClickArrowUp(ScrollBar& bar);
 void TypeAddress(const std::string& text);
 void PressPage(Qt::MouseButton button, int x, int y);
 void MovePointer(int x, int y);
-// A press and a release on the page.
+// A press and a release on the page. Not at 0, 0: the tests' toolkit takes that for the middle.
 void ClickPage(int x, int y);
+void DoubleClickPage(int x, int y);
 // A key of the numeric keypad with NumLock on, while the page has the keyboard.
 void PressKeypad(int digit);
 void PressPageKey(int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
 
 // The program, started.
 struct BrowserWindows : ::testing::Test {
-  void SetUp() override { StartProgram(); }
+  void SetUp() override;
 
   static Browser& Page() { return The<Browser>(); }
   static BrowserControl& Panel() { return The<BrowserControl>(); }

@@ -320,7 +320,7 @@ TEST_F(PageView, ATileThatIsNotSquareLiesTransposed) {
   const auto entries = EntriesFrom(file, BrowserAddress);
   EXPECT_EQ(Page().ScaleWidth(), 16 * 8 * 3 + 17);
   EXPECT_EQ(Page().Canvas().GetPixel(300, 100), 0xACACAC) << "the window grows after the page was drawn";
-  ClickPage(1, 1);
+  ClickControl(Panel().fbnGrid);
   EXPECT_EQ(ShownPage(), NaivePage(entries, before)) << "gaps show what was painted before";
   // The first tile is 8 pixels across and 16 down: entry 8 starts its second row. The tile below covers the
   // rows from 8 on.

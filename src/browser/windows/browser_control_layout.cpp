@@ -63,6 +63,8 @@ void BrowserControl::LayOut() {
 
 void BrowserControl::Dress() {
   for (Label* title : {&lblFile, &lblVisuals, &lblAddress, &lblModes, &lblSize, &lblBtimap}) title->SetBold();
+  for (Label* value : {&lblDiv, &lblRows, &lblLines, &lblBitmapWidth, &lblBitmapHeight})
+    value->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
   for (ScrollBar* bar : {&hsbDiv, &hsbRows, &hsbBitmapWidth}) bar->setCursor(Qt::SizeHorCursor);
   for (ScrollBar* bar : {&hsbLines, &hsbBitmapHeight}) bar->setCursor(Qt::SizeVerCursor);
   const std::pair<QWidget&, const Label&> named[] = {{hsbDiv, lblDiv},

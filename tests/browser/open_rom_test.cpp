@@ -1,0 +1,418 @@
+// SPDX-License-Identifier: MIT
+#include "browser/windows/open_rom.h"
+
+#include <QCoreApplication>
+#include <QFileDialog>
+#include <QLineEdit>
+#include <QTest>
+#include <QTimer>
+#include <filesystem>
+
+#include "browser/browser_windows.h"
+#include "browser/rom_kinds.h"
+#include "browser/windows/page_view.h"
+#include "editor/slots.h"
+#include "editor/windows/tile_control.h"
+#include "forms/common_dialog.h"
+#include "runtime/files.h"
+#include "shell/reg_keys.h"
+#include "tile/modes.h"
+#include "tile/shared.h"
+
+namespace brolk::test {
+namespace {
+
+struct OpeningAFile : BrowserWindows {};
+struct ClosingAFile : BrowserWindows {};
+struct RecentList : BrowserWindows {};
+
+const char* const kAskBeforeOpening =
+    "Before you can open a new file, you have to close the opened file.\r\r"
+    "Are you sure you want to close the opened file?";
+
+std::string Setting(const std::string& name) {
+  return RegGetString(kLocalMachine, kSettingsKey, name);
+}
+
+std::string RecentSetting(int entry) {
+  return Setting("LastOpen" + std::to_string(entry));
+}
+
+// Caption of an enabled entry of the recent menu, in brackets when it is disabled.
+std::string RecentCaption(int entry) {
+  const MenuItem& item = The<MainForm>().mnuRecent[entry - 1];
+  const std::string caption = item.Caption().toStdString();
+  return item.isEnabled() ? caption : "(" + caption + ")";
+}
+
+TEST_F(OpeningAFile, ShowsItsFirstPage) {
+  const auto bytes = RampBytes(40000);
+  ChooseInList(Panel().cboMode, kListGba8);
+  const std::string path = OpenBytes("game.dat", bytes);
+  EXPECT_TRUE(FileOpen);
+  EXPECT_EQ(FileName, path);
+  EXPECT_EQ(FileLength, 40000);
+  EXPECT_EQ(BrowserAddress, 0);
+  EXPECT_EQ(Info(), "Opened " + path + " (40000 bytes)");
+  EXPECT_TRUE(Page().Visible());
+  EXPECT_EQ(ShownPage(), NaivePage(bytes));
+  EXPECT_EQ(The<TileControl>().LoadedSlot, -1) << "the tile tool is empty";
+}
+
+TEST_F(OpeningAFile, LeavesThePageActive) {
+  OpenBytes("game.dat", RampBytes(4096));
+  EXPECT_EQ(Form::Active(), &Page());
+}
+
+TEST_F(OpeningAFile, SetsTheScrollRangeWithTheFormerLineBytes) {
+  EXPECT_EQ(LineBytes, 256);
+  OpenBytes("game.gb", RampBytes(65536));
+  EXPECT_EQ(LineBytes, 128) << "the activation that follows has the new mode's";
+  EXPECT_EQ(ScrollScale, 256);
+  EXPECT_EQ(Page().vsbAddress.Max(), 240);
+}
+
+TEST_F(OpeningAFile, StartsAtTheTopAgain) {
+  OpenGba8();
+  Page().vsbAddress.SetValue(50);
+  OpenBytes("other.dat", RampBytes(65536));
+  EXPECT_EQ(Page().vsbAddress.Value(), 0);
+  EXPECT_EQ(BrowserAddress, 0);
+}
+
+TEST_F(OpeningAFile, PicksTheModeByTheExtension) {
+  OpenBytes("game.gbc", RampBytes(4096));
+  EXPECT_EQ(Panel().cboMode.ListIndex(), 4);
+  EXPECT_EQ(GfxMode, kGameboy);
+  OpenBytes("name.tar.nes", RampBytes(4096));
+  EXPECT_EQ(GfxMode, kNes);
+  OpenBytes("Game.GBC", RampBytes(4096));
+  EXPECT_EQ(GfxMode, kNes) << "upper case matches nothing";
+  OpenBytes("game.smc", RampBytes(4096));
+  EXPECT_EQ(GfxMode, kNes);
+  OpenBytes("plain", RampBytes(4096));
+  EXPECT_EQ(GfxMode, kNes);
+}
+
+TEST_F(OpeningAFile, RunsTheModeAlsoWhenItIsTheOneThatStands) {
+  OpenBytes("one.gb", RampBytes(4096));
+  Panel().hsbDiv.SetValue(3);
+  OpenBytes("two.gb", RampBytes(4096));
+  EXPECT_EQ(AddressShift, 0);
+}
+
+TEST_F(OpeningAFile, KeepsTheShiftWhenTheModeStays) {
+  OpenGba8();
+  Panel().hsbDiv.SetValue(3);
+  OpenBytes("two.dat", RampBytes(4096));
+  EXPECT_EQ(AddressShift, 3);
+  EXPECT_EQ(BrowserAddress, 0) << "the opening itself shows the very start";
+}
+
+TEST_F(OpeningAFile, OpensAnEmptyFile) {
+  const std::string path = OpenBytes("empty.dat", {});
+  EXPECT_TRUE(FileOpen);
+  EXPECT_EQ(Info(), "Opened " + path + " (0 bytes)");
+  EXPECT_TRUE(Page().Visible());
+}
+
+TEST_F(OpeningAFile, TakesALengthOf2GigabytesOrMoreAsItsLow32Bits) {
+  const std::string path = MakeFile("huge.dat", std::string());
+  std::filesystem::resize_file(path, 3ULL << 30);
+  OpenRomFile(path);
+  EXPECT_TRUE(FileOpen);
+  EXPECT_EQ(FileLength, -1073741824);
+  EXPECT_EQ(ScrollScale, 1);
+  EXPECT_EQ(Info(), "Opened " + path + " (-1073741824 bytes)");
+  ClickArrowUp(Page().vsbAddress);
+  ClickPage(30, 30);
+}
+
+TEST_F(OpeningAFile, ReadsAReadOnlyFile) {
+  const std::string path = MakeFile("fixed.dat", RampBytes(4096));
+  std::filesystem::permissions(path, std::filesystem::perms::owner_read);
+  ASSERT_EQ(FileAttributes(path), kAttributeReadOnly);
+  OpenRomFile(path);
+  EXPECT_GT(hFile, 0);
+  EXPECT_EQ(_llseek(hFile, 0, kFromStart), 0);
+  EXPECT_EQ(_hwrite(hFile, "x"), -1) << "it is open for reading alone";
+}
+
+TEST_F(OpeningAFile, AFileThatCannotBeOpenedCountsAsOpenAndShowsZeros) {
+#ifdef __linux__
+  // A running program cannot be opened for writing.
+  const std::string path = QCoreApplication::applicationFilePath().toStdString();
+  ChooseInList(Panel().cboMode, kListGba8);
+  OpenRomFile(path);
+  EXPECT_LT(hFile, 0);
+  EXPECT_TRUE(FileOpen);
+  EXPECT_EQ(FileLength, static_cast<std::int32_t>(std::filesystem::file_size(path)));
+  EXPECT_TRUE(Page().Visible());
+  EXPECT_EQ(ShownPage(), NaivePage(std::vector<std::uint8_t>(8192)));
+#endif
+}
+
+TEST_F(OpeningAFile, SlotsWithContentLoseTheirPlaceInTheFile) {
+  OpenGba8();
+  DoubleClickPage(30, 30);
+  const auto before = EditSlots[0].Pixels;
+  ASSERT_EQ(EditSlots[0].Address, 9 * 64);
+  OpenBytes("other.dat", RampBytes(4096));
+  EXPECT_EQ(EditSlots[0].Address, kUnaddressed);
+  EXPECT_EQ(EditSlots[0].Pixels, before);
+  EXPECT_EQ(EditSlots[1].Address, kNonCopied);
+}
+
+TEST_F(OpeningAFile, TheDialogGetsFolderFilterAndNoName) {
+  OpenBytes("first.dat", RampBytes(4096));
+  CommonDialog* shown = nullptr;
+  QString folder, name, filter;
+  CommonDialog::Answer = [&](CommonDialog& dialog, CommonDialog::Kind kind) {
+    EXPECT_EQ(kind, CommonDialog::Kind::Open);
+    shown = &dialog;
+    folder = dialog.InitDir;
+    name = dialog.FileName;
+    filter = dialog.Filter;
+  };
+  WithAnswers({6}, [] { ClickControl(Panel().fbnOpenFile); });
+  EXPECT_EQ(shown, &Frame().cdlMain);
+  EXPECT_EQ(folder.toStdString() + "/", TestFolder());
+  EXPECT_TRUE(name.isEmpty());
+  EXPECT_EQ(filter.toStdString(), kRomFilter);
+}
+
+TEST_F(OpeningAFile, ThroughTheRealDialogByItsName) {
+  const std::string path = MakeFile("typed.gb", RampBytes(4096));
+  QTimer hands;
+  QObject::connect(&hands, &QTimer::timeout, &hands, [&] {
+    auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+    if (dialog == nullptr) return;
+    hands.stop();
+    EXPECT_EQ(dialog->nameFilters().size(), 15);
+    auto* name = dialog->findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
+    ASSERT_NE(name, nullptr);
+    name->insert(QString::fromStdString(path));
+    QTest::keyClick(name, Qt::Key_Return);
+  });
+  hands.start(0);
+  ClickControl(Panel().fbnOpenFile);
+  EXPECT_TRUE(FileOpen);
+  EXPECT_EQ(FileName, path);
+  EXPECT_EQ(GfxMode, kGameboy);
+}
+
+TEST_F(OpeningAFile, TheRealDialogCancelledOpensNothing) {
+  QTimer hands;
+  QObject::connect(&hands, &QTimer::timeout, &hands, [&] {
+    if (auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget())) dialog->reject();
+  });
+  hands.start(0);
+  WithAnswers({}, [] { ClickControl(Panel().fbnOpenFile); });
+  EXPECT_FALSE(FileOpen);
+  EXPECT_TRUE(FileName.empty());
+}
+
+TEST_F(OpeningAFile, ThroughTheMenuWithTheBrowserToolOff) {
+  Frame().fbnBrowser.SetChecked(false);
+  Frame().UpdateToolWindows();
+  AnswerFileDialog(MakeFile("menu.dat", RampBytes(4096)));
+  Frame().mnuOpen.trigger();
+  EXPECT_TRUE(Frame().fbnBrowser.Checked());
+  EXPECT_TRUE(FileOpen);
+  EXPECT_TRUE(Page().Visible());
+  EXPECT_TRUE(Panel().Visible());
+}
+
+TEST_F(OpeningAFile, TheMiddleButtonDoesNothing) {
+  AnswerFileDialog(MakeFile("some.dat", RampBytes(4096)));
+  ClickControl(Panel().fbnOpenFile, Qt::MiddleButton);
+  EXPECT_FALSE(FileOpen);
+}
+
+TEST_F(OpeningAFile, ThePressCountsNotTheClick) {
+  AnswerFileDialog(MakeFile("some.dat", RampBytes(4096)));
+  QTest::mousePress(&Panel().fbnOpenFile, Qt::LeftButton);
+  EXPECT_TRUE(FileOpen);
+  QTest::mouseRelease(&Panel().fbnOpenFile, Qt::LeftButton);
+}
+
+// Another file is open.
+
+TEST_F(OpeningAFile, AsksBeforeItClosesTheOpenOne) {
+  OpenGba8();
+  const auto seen = WithAnswers({7}, [] { ClickControl(Panel().fbnOpenFile); });
+  EXPECT_EQ(seen[0].text, kAskBeforeOpening);
+  EXPECT_EQ(seen[0].title, "Brolk Plus - Close file?");
+  EXPECT_EQ(seen[0].icon, "msg-question");
+}
+
+TEST_F(OpeningAFile, NoLeavesEverythingAsItWas) {
+  const auto& file = OpenGba8();
+  DoubleClickPage(30, 30);
+  Page().vsbAddress.SetValue(3);
+  const auto handle = hFile;
+  for (const int answer : {7, 0}) {
+    WithAnswers({answer}, [] { ClickControl(Panel().fbnOpenFile); });
+    EXPECT_TRUE(FileOpen);
+    EXPECT_EQ(hFile, handle);
+    EXPECT_EQ(OpenFileLength(hFile), 65536);
+    EXPECT_EQ(EditSlots[0].Address, 9 * 64);
+    EXPECT_EQ(ShownPage(), NaivePage(EntriesFrom(file, 3 * 512)));
+  }
+}
+
+TEST_F(OpeningAFile, ACancelAfterYesLosesTheOldFile) {
+  OpenGba8();
+  DoubleClickPage(30, 30);
+  const std::string info = Info();
+  const auto handle = hFile;
+  AnswerFileDialog("");
+  WithAnswers({6}, [] { ClickControl(Panel().fbnOpenFile); });
+  EXPECT_FALSE(FileOpen);
+  EXPECT_TRUE(FileName.empty());
+  EXPECT_EQ(OpenFileLength(handle), 0) << "the old file is closed already";
+  EXPECT_EQ(Info(), info) << "no message at all";
+  EXPECT_EQ(EditSlots[0].Address, kUnaddressed) << "this runs on failure too";
+  EXPECT_TRUE(Page().Visible()) << "the page stays until the next redraw";
+  ReloadPage();
+  EXPECT_FALSE(Page().Visible());
+}
+
+TEST_F(OpeningAFile, AMissingFileOrAFolderIsPassedOverInSilence) {
+  WithAnswers({}, [] { OpenRomFile(TestFolder() + "nothing.gb"); });
+  EXPECT_FALSE(FileOpen);
+  WithAnswers({}, [] { OpenRomFile(TestFolder()); });
+  EXPECT_FALSE(FileOpen);
+  EXPECT_EQ(RecentSetting(1), "") << "no entry is made";
+  EXPECT_EQ(Setting("RomPath"), "");
+  EXPECT_EQ(GfxMode, kSnes4);
+}
+
+// The recent list.
+
+TEST_F(RecentList, AFileGoesToTheTopInSettingsAndMenu) {
+  const std::string path = OpenBytes("first.dat", RampBytes(4096));
+  EXPECT_EQ(RecentSetting(1), path);
+  EXPECT_EQ(RecentCaption(1), path);
+  EXPECT_EQ(RecentCaption(2), "(Recent 2)");
+  EXPECT_EQ(Setting("RomPath") + "/", TestFolder());
+}
+
+TEST_F(RecentList, ReopeningTheThirdMovesTwoDown) {
+  std::string paths[4];
+  for (int file = 0; file < 4; ++file) paths[file] = OpenBytes("f" + std::to_string(file), RampBytes(4096));
+  // Newest first: 3, 2, 1, 0.
+  WithAnswers({6}, [] { Frame().mnuRecent[2].trigger(); });
+  EXPECT_EQ(FileName, paths[1]);
+  const int order[] = {1, 3, 2, 0};
+  for (int entry = 1; entry <= 4; ++entry) {
+    EXPECT_EQ(RecentSetting(entry), paths[order[entry - 1]]);
+    EXPECT_EQ(RecentCaption(entry), paths[order[entry - 1]]);
+  }
+}
+
+TEST_F(RecentList, ATenthFileDropsTheNinth) {
+  std::string paths[10];
+  for (int file = 0; file < 10; ++file) paths[file] = OpenBytes("f" + std::to_string(file), RampBytes(64));
+  for (int entry = 1; entry <= 9; ++entry) {
+    EXPECT_EQ(RecentSetting(entry), paths[10 - entry]);
+    EXPECT_EQ(RecentCaption(entry), paths[10 - entry]);
+  }
+}
+
+TEST_F(RecentList, CaseMakesANameNew) {
+  const std::string small = OpenBytes("game.dat", RampBytes(64));
+  const std::string large = OpenBytes("GAME.dat", RampBytes(64));
+  EXPECT_EQ(RecentSetting(1), large);
+  EXPECT_EQ(RecentSetting(2), small);
+}
+
+TEST_F(RecentList, ARightPressReopensTheNewest) {
+  const std::string path = OpenBytes("again.dat", RampBytes(4096));
+  WithAnswers({6}, [] { ClickControl(Panel().fbnCloseFile); });
+  CommonDialog::Answer = [](CommonDialog&, CommonDialog::Kind) { ADD_FAILURE() << "no dialog is needed"; };
+  ClickControl(Panel().fbnOpenFile, Qt::RightButton);
+  EXPECT_TRUE(FileOpen);
+  EXPECT_EQ(FileName, path);
+}
+
+TEST_F(RecentList, ARightPressWithAnEmptyListAsks) {
+  int asked = 0;
+  CommonDialog::Answer = [&](CommonDialog&, CommonDialog::Kind) { ++asked; };
+  ClickControl(Panel().fbnOpenFile, Qt::RightButton);
+  EXPECT_EQ(asked, 1);
+}
+
+TEST_F(RecentList, AnEntryWhoseFileHasGoneIsPassedOverInSilence) {
+  const std::string path = OpenBytes("gone.dat", RampBytes(4096));
+  OpenBytes("here.dat", RampBytes(4096));
+  std::filesystem::remove(path);
+  WithAnswers({6}, [] { Frame().mnuRecent[1].trigger(); });
+  EXPECT_FALSE(FileOpen);
+  EXPECT_EQ(FileName, path);
+  EXPECT_EQ(RecentSetting(2), path) << "the list stays";
+}
+
+TEST_F(RecentList, OpensWithTheBrowserToolOffAndLeavesThePanelHidden) {
+  OpenBytes("game.dat", RampBytes(4096));
+  WithAnswers({6}, [] { ClickControl(Panel().fbnCloseFile); });
+  Frame().fbnBrowser.SetChecked(false);
+  Frame().UpdateToolWindows();
+  Frame().mnuRecent[0].trigger();
+  EXPECT_TRUE(Page().Visible());
+  EXPECT_FALSE(Panel().Visible());
+  EXPECT_FALSE(Frame().fbnBrowser.Checked());
+}
+
+TEST_F(RecentList, IsReadAgainAtTheNextStart) {
+  const std::string path = OpenBytes("kept & held.dat", RampBytes(4096));
+  Frame().mnuRecent[0].SetCaption(QStringLiteral("x"));
+  Frame().FillRecentMenu();
+  EXPECT_EQ(RecentCaption(1), path);
+}
+
+// Closing.
+
+TEST_F(ClosingAFile, AsksAndHidesThePage) {
+  const std::string path = OpenBytes("game.dat", RampBytes(4096));
+  const auto handle = hFile;
+  const auto seen = WithAnswers({6}, [] { ClickControl(Panel().fbnCloseFile); });
+  EXPECT_EQ(seen[0].text, "Are you sure you want to close the opened file?");
+  EXPECT_EQ(seen[0].title, "Brolk Plus - Close file?");
+  EXPECT_EQ(seen[0].icon, "msg-question");
+  EXPECT_FALSE(FileOpen);
+  EXPECT_EQ(Info(), "Closed file " + path);
+  EXPECT_TRUE(FileName.empty());
+  EXPECT_EQ(OpenFileLength(handle), 0);
+  EXPECT_FALSE(Page().Visible());
+  EXPECT_TRUE(Panel().Visible());
+}
+
+TEST_F(ClosingAFile, NoChangesNothing) {
+  OpenGba8();
+  for (const int answer : {7, 0}) {
+    WithAnswers({answer}, [] { ClickControl(Panel().fbnCloseFile); });
+    EXPECT_TRUE(FileOpen);
+    EXPECT_TRUE(Page().Visible());
+    EXPECT_EQ(OpenFileLength(hFile), 65536);
+  }
+}
+
+TEST_F(ClosingAFile, WithoutAFileIsSilent) {
+  const std::string info = Info();
+  WithAnswers({}, [] { ClickControl(Panel().fbnCloseFile); });
+  EXPECT_EQ(Info(), info);
+}
+
+TEST_F(ClosingAFile, KeepsModePageShapeAndZoom) {
+  OpenGba8();
+  Panel().hsbRows.SetValue(12);
+  ClickControl(Panel().fbnBrowserZoomIn);
+  WithAnswers({6}, [] { ClickControl(Panel().fbnCloseFile); });
+  EXPECT_EQ(GfxMode, kGba8);
+  EXPECT_EQ(MainRows, 12);
+  EXPECT_EQ(MainZoom, 4);
+}
+
+}  // namespace
+}  // namespace brolk::test
