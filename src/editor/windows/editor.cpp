@@ -41,6 +41,7 @@ Editor::Editor()
   if (ChildFrame() != nullptr)
     ChildFrame()->setMinimumSize(PixelsFromTwips(kMinimumTwips), PixelsFromTwips(kMinimumTwips));
   fbnFit.resize(kScrollBarPx, kScrollBarPx);
+  fbnFit.setAutoFillBackground(true);
   hsbEdit.resize(kScrollBarPx, kScrollBarPx);
   vsbEdit.resize(kScrollBarPx, kScrollBarPx);
   for (ScrollBar* bar : {&hsbEdit, &vsbEdit}) {
