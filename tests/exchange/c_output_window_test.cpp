@@ -15,6 +15,7 @@
 #include "shell/windows/main_form.h"
 #include "support/dialog_hands.h"
 #include "support/program.h"
+#include "support/shown_texts.h"
 #include "tile/shared.h"
 
 namespace brolk {
@@ -23,23 +24,6 @@ namespace {
 using test::ClickControl;
 using test::DialogWatch;
 using testing::ElementsAre;
-
-// Keeps every text that a label shows on screen.
-class ShownTexts final : public QObject {
- public:
-  explicit ShownTexts(Label& label) : label_(label) { label.installEventFilter(this); }
-  std::vector<std::string> texts;
-
- protected:
-  bool eventFilter(QObject*, QEvent* event) override {
-    const std::string text = label_.Text().toStdString();
-    if (event->type() == QEvent::Paint && (texts.empty() || texts.back() != text)) texts.push_back(text);
-    return false;
-  }
-
- private:
-  Label& label_;
-};
 
 class COutPutWindow : public testing::Test {
  protected:
@@ -177,7 +161,7 @@ TEST_F(COutPutWindow, ProgressIsShownTileByTile) {
   tool.cboSize.SetListIndex(1);
   tool.hsbRows.SetValue(2);
   QCoreApplication::processEvents();
-  ShownTexts shown(tool.lblInfo);
+  test::ShownTexts shown(tool.lblInfo);
   Convert(test::TestFolder() + "progress.h");
   EXPECT_THAT(shown.texts, ElementsAre("Convert 2x1 of 16x16 = 8 tiles", "Converting... 0 of 8 tiles done.",
                                        "Converting... 1 of 8 tiles done.", "Converting... 2 of 8 tiles done.",
