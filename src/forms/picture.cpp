@@ -1,9 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "forms/picture.h"
 
+#include <QFocusEvent>
+#include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPaintEvent>
 #include <QPainter>
+#include <algorithm>
+#include <utility>
 
 #include "forms/keys.h"
 
@@ -36,25 +40,95 @@ void Picture::Refresh() {
   repaint();
 }
 
+void Picture::SetCells(std::function<int()> cellPx) {
+  cellPx_ = std::move(cellPx);
+  setFocusPolicy(Qt::TabFocus);
+}
+
 void Picture::paintEvent(QPaintEvent* event) {
   QPainter painter(this);
   painter.drawImage(event->rect(), ImageOver(Canvas()), event->rect());
+  if (!markShown_) return;
+  // Black dots on white can be seen on every colour.
+  const QRect frame = MarkedCell().adjusted(0, 0, -1, -1);
+  painter.setPen(Qt::white);
+  painter.drawRect(frame);
+  painter.setPen(QPen(Qt::black, 1, Qt::DotLine));
+  painter.drawRect(frame);
+}
+
+// The last pixel of a scaled screen has positions that would round to the one behind it.
+QPointF Picture::Inside(QPointF at) const {
+  if (at.x() < width()) at.setX(std::min(at.x(), width() - 1.0));
+  if (at.y() < height()) at.setY(std::min(at.y(), height() - 1.0));
+  return at;
+}
+
+void Picture::Press(int button, int shift, QPointF at) {
+  if (MouseDown) MouseDown(button, shift, static_cast<float>(at.x()), static_cast<float>(at.y()));
 }
 
 void Picture::mousePressEvent(QMouseEvent* event) {
-  const QPointF at = event->position();
-  if (MouseDown) {
-    MouseDown(ButtonBitsOf(event->button()), ShiftBitsOf(static_cast<unsigned int>(event->modifiers())),
-              static_cast<float>(at.x()), static_cast<float>(at.y()));
-  }
+  ShowMark(false);
+  Press(ButtonBitsOf(event->button()), ShiftBitsOf(static_cast<unsigned int>(event->modifiers())),
+        Inside(event->position()));
 }
 
 void Picture::mouseMoveEvent(QMouseEvent* event) {
-  const QPointF at = event->position();
+  const QPointF at = Inside(event->position());
   if (MouseMove) {
     MouseMove(ButtonBitsOf(event->buttons()), ShiftBitsOf(static_cast<unsigned int>(event->modifiers())),
               static_cast<float>(at.x()), static_cast<float>(at.y()));
   }
+}
+
+QRect Picture::MarkedCell() const {
+  const int cell = std::clamp(cellPx_(), 1, std::max(std::min(width(), height()), 1));
+  const QPoint last(width() / cell - 1, height() / cell - 1);
+  return {std::clamp(mark_.x(), 0, last.x()) * cell, std::clamp(mark_.y(), 0, last.y()) * cell, cell, cell};
+}
+
+void Picture::ShowMark(bool on) {
+  markShown_ = on && cellPx_;
+  update();
+}
+
+void Picture::MoveMark(QPoint step) {
+  const QRect before = MarkedCell();
+  mark_ = QPoint(before.x() / before.width(), before.y() / before.height()) + step;
+  const QPoint at = MarkedCell().center();
+  mark_ = at / before.width();
+  ShowMark(true);
+  if (MouseMove) MouseMove(0, 0, static_cast<float>(at.x()), static_cast<float>(at.y()));
+}
+
+void Picture::keyPressEvent(QKeyEvent* event) {
+  const bool menuKey = event->key() == Qt::Key_Menu ||
+                       (event->key() == Qt::Key_F10 && event->modifiers() == Qt::ShiftModifier);
+  if (!cellPx_) {
+    QWidget::keyPressEvent(event);
+  } else if (event->key() == Qt::Key_Left) {
+    MoveMark({-1, 0});
+  } else if (event->key() == Qt::Key_Right) {
+    MoveMark({1, 0});
+  } else if (event->key() == Qt::Key_Up) {
+    MoveMark({0, -1});
+  } else if (event->key() == Qt::Key_Down) {
+    MoveMark({0, 1});
+  } else if (event->key() == Qt::Key_Space || menuKey) {
+    ShowMark(true);
+    Press(menuKey ? kRightButton : kLeftButton, 0, MarkedCell().center());
+  } else {
+    QWidget::keyPressEvent(event);
+  }
+}
+
+void Picture::focusInEvent(QFocusEvent* event) {
+  ShowMark(event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason);
+}
+
+void Picture::focusOutEvent(QFocusEvent*) {
+  ShowMark(false);
 }
 
 }  // namespace brolk

@@ -423,6 +423,20 @@ TEST_F(ColorSetTool, EveryCellOfThePictureCanBeReached) {
   }
 }
 
+TEST_F(ColorSetTool, TheLastHalfPixelOfAScaledScreenIsTheLastCell) {
+  Add("one", 1);
+  Press(Qt::LeftButton, {191.5, 191.5});
+  EXPECT_EQ(The<ColorDialog>().EditIndex, 255);
+}
+
+TEST_F(ColorSetTool, ThePictureCanBeUsedByKeyboard) {
+  Add("one", 1);
+  for (const Qt::Key key : {Qt::Key_Right, Qt::Key_Down, Qt::Key_Space})
+    QTest::keyClick(&tool->picColor, key);
+  EXPECT_TRUE(The<ColorDialog>().Visible());
+  EXPECT_EQ(The<ColorDialog>().EditIndex, 17);
+}
+
 TEST_F(ColorSetTool, APressBeyondColumn15RunsOnIntoTheNextRow) {
   Add("one", 1);
   Press(Qt::LeftButton, {192, 0});

@@ -210,6 +210,19 @@ TEST_F(PalettePanel, ClampsTheMovingPointerWhileAButtonIsHeld) {
   EXPECT_EQ(The<MainForm>().lblColor.Text(), "Color 12");
 }
 
+TEST_F(PalettePanel, CanBeUsedByKeyboard) {
+  for (const Qt::Key key : {Qt::Key_Right, Qt::Key_Down, Qt::Key_Down})
+    QTest::keyClick(&panel->picColor, key);
+  EXPECT_EQ(The<MainForm>().lblColor.Text(), "Color 9");
+  EXPECT_EQ(CurrentColor, 0);
+  QTest::keyClick(&panel->picColor, Qt::Key_Space);
+  EXPECT_EQ(CurrentColor, 9);
+  QTest::keyClick(&panel->picColor, Qt::Key_Right);
+  QTest::keyClick(&panel->picColor, Qt::Key_Menu);
+  EXPECT_TRUE(The<ColorDialog>().Visible());
+  EXPECT_EQ(The<ColorDialog>().EditIndex, 10);
+}
+
 TEST_F(PalettePanel, SetCurrentColorShowsIt) {
   panel->SetCurrentColor(200);
   EXPECT_EQ(CurrentColor, 200);

@@ -78,6 +78,7 @@ void ColorSet::ConnectListEvents() {
   lstSets.DblClick = [this] { fbnApplySet_Click(); };
   txtName.DblClick = [this] { txtName_DblClick(); };
   picColor.MouseDown = [this](int, int, float x, float y) { picColor_MouseDown(x, y); };
+  picColor.SetCells([this] { return SetCellPx(picColor.ScaleWidth()); });
   fbnApplySet.Click = [this] { fbnApplySet_Click(); };
   fbnAddSet.Click = [this] { fbnAddSet_Click(); };
   fbnDeleteSet.MouseDown = [this](int button, int, float, float) { fbnDeleteSet_MouseDown(button); };

@@ -34,8 +34,8 @@ class ColorSet final : public Form {
 
   Label Label1{*this, "Label1", "Color Set Display"};
   ListBox lstSets{*this, "lstSets", "Here the color sets are listed"};
-  TextBox txtName{*this, "txtName", "", "This is the description of the selected color set"};
   Picture picColor{*this, "picColor"};
+  TextBox txtName{*this, "txtName", "", "This is the description of the selected color set"};
   FlatButton fbnApplySet{*this, "fbnApplySet", "apply-set",
                          "Apply the selected color set the current set to the browser"};
   FlatButton fbnAddSet{*this, "fbnAddSet", "add-set", "Add the editor's color set to the list"};

@@ -55,6 +55,7 @@ void PaletteControl::LayOut() {
 void PaletteControl::ConnectEvents() {
   picColor.MouseDown = [this](int button, int, float x, float y) { picColor_MouseDown(button, x, y); };
   picColor.MouseMove = [this](int, int, float x, float y) { picColor_MouseMove(x, y); };
+  picColor.SetCells([] { return PanelCellPx(PaletteSide); });
   lblSwitch.SetClick([this] { lblSwitch_Click(); });
   fbnPalShiftNum.Click = [this] { fbnPalShiftNum_Click(); };
   fbnPalShiftLeft.Click = [this] { fbnPalShiftLeft_Click(); };
