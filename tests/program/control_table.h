@@ -18,7 +18,8 @@ struct ControlRow {
   int value = 0;  // of a scroll bar, or 1 for a checked button
 };
 
-// clang-format off: one control to a line
+// One control to a line.
+// clang-format off
 inline constexpr ControlRow kBrowserControls[] = {
     {"vsbAddress", ControlKind::Bar, "", "", 0, 0, 0},
 };
