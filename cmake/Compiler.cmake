@@ -19,7 +19,7 @@ add_library(brolk_flags INTERFACE)
 if(MSVC)
   target_compile_options(brolk_flags INTERFACE /W4 $<$<BOOL:${BROLK_WERROR}>:/WX>)
 else()
-  target_compile_options(brolk_flags INTERFACE -Wall -Wextra -Wpedantic -Wshadow=local
+  target_compile_options(brolk_flags INTERFACE -Wall -Wextra -Wpedantic $<$<CXX_COMPILER_ID:GNU>:-Wshadow=local>
     $<$<BOOL:${BROLK_WERROR}>:-Werror>)
 endif()
 if(BROLK_SANITIZE)

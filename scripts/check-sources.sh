@@ -15,5 +15,8 @@ echo "== Layers: what each folder may include"
 python3 scripts/check_layers.py
 
 echo "== clang-tidy"
-mapfile -t units < <(git ls-files 'src/*.cpp')
-printf '%s\n' "${units[@]}" | xargs -P "$(nproc)" -n 6 "$tidy" -p build/develop --quiet --warnings-as-errors='*' 2>/dev/null
+# The registry is another platform's: its file is empty here.
+mapfile -t units < <(git ls-files 'src/*.cpp' | grep -v '^src/shell/registry.cpp$')
+printf '%s\n' "${units[@]}" | xargs -P "$(nproc)" -n 4 "$tidy" -p build/develop --quiet --extra-arg=-Wno-unknown-warning-option \
+  --warnings-as-errors='*' 2>/dev/null
+echo "clang-tidy has nothing to say"
