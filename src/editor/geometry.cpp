@@ -28,11 +28,11 @@ std::int16_t PixelInCell(float tilePixels, std::int16_t cell) {
 }  // namespace
 
 std::int16_t CellPx(std::int16_t zoom) {
-  return Wrap16(zoom * kTilePx);
+  return Wrap16(std::int64_t{zoom} * kTilePx);
 }
 
 std::int16_t GridPx(std::int16_t zoom) {
-  return Wrap16(zoom * kTilePx * kSlotsInLine);
+  return Wrap16(std::int64_t{zoom} * kTilePx * kSlotsInLine);
 }
 
 std::uint8_t EditorPlace::Slot() const {

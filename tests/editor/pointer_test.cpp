@@ -111,6 +111,27 @@ TEST_F(EditorPointer, WipesTheOldFrameByDrawingItsCell) {
   ExpectFreshPicture();
 }
 
+TEST_F(EditorPointer, WipesTheWholeFrameOfANonCopiedCellAlsoWithoutTheGrid) {
+  ClickControl(panel().fbnEditorGrid);
+  mouse.Click(At(3, 2));
+  mouse.Move(At(3, 2));
+  mouse.Click(At(8, 8));
+  ExpectFreshPicture();
+}
+
+TEST_F(EditorPointer, LeavesTheFarEdgesOfAFilledCellsFrameWithoutTheGrid) {
+  // A filled cell is one pixel smaller than its frame to the right and below.
+  ClickControl(panel().fbnEditorGrid);
+  SetSlot(35, -1, PlainTile(40));
+  mouse.Click(At(3, 2));
+  mouse.Move(At(3, 2));
+  mouse.Click(At(8, 8));
+  EXPECT_EQ(editor().Canvas().GetPixel(3 * 24, 2 * 24 + 5), Palette[40]);
+  EXPECT_EQ(editor().Canvas().GetPixel(3 * 24 + 5, 2 * 24), Palette[40]);
+  EXPECT_EQ(editor().Canvas().GetPixel(4 * 24, 2 * 24 + 5), SelectionColor);
+  EXPECT_EQ(editor().Canvas().GetPixel(3 * 24 + 5, 3 * 24), SelectionColor);
+}
+
 TEST_F(EditorPointer, FeedsTheTileToolBySelecting) {
   Open("rom.bin", std::vector<std::uint8_t>(4096), kSnes4);
   SetSlot(1, -1, PlainTile(1));
