@@ -198,7 +198,7 @@ class TileReader final {
   void ReadBitmapRow() {
     Read(0);
     CountBytes(TileWidth, [this](std::uint8_t x) {
-      PageBuffer[entry_++] = x > 7 ? 1 : static_cast<std::uint8_t>(local_[0] >> (7 - x) & 1U);
+      PageBuffer[entry_++] = static_cast<std::uint8_t>(x > 7 ? 1U : local_[0] >> (7 - x) & 1U);
     });
   }
 
