@@ -6,12 +6,20 @@
 #include <QPaintEvent>
 #include <QPainter>
 #include <QWheelEvent>
+#include <algorithm>
 
 #include "forms/keys.h"
 #include "forms/picture.h"
 #include "forms/scroll_bar.h"
 
 namespace brolk {
+namespace {
+
+// 256 MiB. A page size out of a spoilt settings file can ask for a window far beyond any screen; the lines
+// below this are not kept.
+constexpr int kMostCanvasPixels = 1 << 26;
+
+}  // namespace
 
 DrawingForm::DrawingForm(const FormStyle& style, ColorValue backColor) : Form(style), backColor_(backColor) {
   setMouseTracking(true);
@@ -22,7 +30,7 @@ DrawingForm::DrawingForm(const FormStyle& style, ColorValue backColor) : Form(st
 // A window that is not on the screen yet learns of its size only when it is shown, and may be drawn on
 // before.
 Surface& DrawingForm::Canvas() {
-  canvas_.Resize(width(), height(), backColor_);
+  canvas_.Resize(width(), std::min(height(), kMostCanvasPixels / std::max(width(), 1)), backColor_);
   return canvas_;
 }
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "forms/scroll_bar.h"
 
+#include <QWheelEvent>
 #include <algorithm>
 
 namespace brolk {
@@ -42,6 +43,15 @@ void ScrollBar::SetMax(int maximum) {
 
 void ScrollBar::SetValue(int value) {
   TakeValue(maximum_ < minimum_ ? minimum_ : std::max(value, minimum_));
+}
+
+void ScrollBar::wheelEvent(QWheelEvent* event) {
+  const QPoint turn = event->angleDelta();
+  wheelRest_ += turn.y() != 0 ? turn.y() : turn.x();
+  const int notches = wheelRest_ / QWheelEvent::DefaultDeltasPerStep;
+  wheelRest_ -= notches * QWheelEvent::DefaultDeltasPerStep;
+  setValue(value() - notches * singleStep());
+  event->accept();
 }
 
 void ScrollBar::TakeValue(int value) {

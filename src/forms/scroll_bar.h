@@ -12,8 +12,8 @@ namespace brolk {
 // thumb then shows the end and the value is the assigned one, until the user moves it or a lowered maximum
 // pulls it down. Change is raised only when the value really changes, at once, inside the running handler.
 // While the thumb is dragged only Scroll is raised, with the value following the thumb; Change comes on the
-// release. A maximum below the minimum is kept as the number and leaves nothing to scroll: the value stays at
-// the minimum.
+// release. The wheel over the bar moves it by one step a notch. A maximum below the minimum is kept as the
+// number and leaves nothing to scroll: the value stays at the minimum.
 class ScrollBar final : public QScrollBar {
  public:
   ScrollBar(Qt::Orientation orientation, QWidget& parent, const char* name, int minimum, int maximum,
@@ -29,6 +29,9 @@ class ScrollBar final : public QScrollBar {
   std::function<void()> Change;
   std::function<void()> Scroll;
 
+ protected:
+  void wheelEvent(QWheelEvent* event) override;
+
  private:
   void TakeValue(int value);
   void ShowValue();
@@ -37,6 +40,7 @@ class ScrollBar final : public QScrollBar {
   int maximum_;
   int value_;
   int valueBeforeDrag_ = 0;
+  int wheelRest_ = 0;  // eighths of a degree short of a notch
   bool showing_ = false;
 };
 

@@ -2,9 +2,12 @@
 #include "browser/browser_windows.h"
 
 #include <QAbstractItemView>
+#include <QApplication>
 #include <QStyle>
 #include <QStyleOptionSlider>
 #include <QTest>
+#include <QWheelEvent>
+#include <cstdlib>
 
 #include "palette/palette_model.h"
 #include "tile/modes.h"
@@ -67,6 +70,15 @@ void ReleaseThumb(ScrollBar& bar, int pixels) {
 
 void ClickArrowUp(ScrollBar& bar) {
   QTest::mouseClick(&bar, Qt::LeftButton, {}, PartOf(bar, QStyle::SC_ScrollBarAddLine).center());
+}
+
+void TurnWheel(QWidget& control, int notches) {
+  const QPointF at(control.rect().center());
+  for (int notch = 0; notch < std::abs(notches); ++notch) {
+    QWheelEvent event(at, control.mapToGlobal(at), {}, {0, notches > 0 ? 120 : -120}, Qt::NoButton,
+                      Qt::NoModifier, Qt::NoScrollPhase, false);
+    QApplication::sendEvent(&control, &event);
+  }
 }
 
 void TypeAddress(const std::string& text) {

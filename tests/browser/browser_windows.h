@@ -41,6 +41,8 @@ void DragThumb(ScrollBar& bar, int pixels);
 void ReleaseThumb(ScrollBar& bar, int pixels);
 // Clicks the arrow at the end of a bar.
 void ClickArrowUp(ScrollBar& bar);
+// Turns the wheel over a control by some notches, away from the hand when positive.
+void TurnWheel(QWidget& control, int notches);
 void TypeAddress(const std::string& text);
 void PressPage(Qt::MouseButton button, int x, int y);
 void MovePointer(int x, int y);

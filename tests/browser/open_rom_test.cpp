@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "browser/windows/open_rom.h"
 
-#include <QCoreApplication>
+#include <QApplication>
 #include <QFileDialog>
 #include <QLineEdit>
 #include <QTest>
@@ -62,6 +62,17 @@ TEST_F(OpeningAFile, ShowsItsFirstPage) {
 TEST_F(OpeningAFile, LeavesThePageActive) {
   OpenBytes("game.dat", RampBytes(4096));
   EXPECT_EQ(Form::Active(), &Page());
+}
+
+TEST_F(OpeningAFile, GivesThePageTheKeyboardAlsoWhenItShowsAlready) {
+  OpenGba8();
+  Panel().txtAddress.setFocus();
+  Panel().SetFocus();
+  ASSERT_EQ(Form::Active(), &Panel());
+  OpenBytes("game.gb", RampBytes(4096));
+  EXPECT_EQ(Form::Active(), &Page());
+  EXPECT_EQ(LineBytes, 128) << "the activation has brought them up to the mode";
+  EXPECT_TRUE(QTest::qWaitFor([] { return QApplication::focusWidget() == &Page(); }, 2000));
 }
 
 TEST_F(OpeningAFile, SetsTheScrollRangeWithTheFormerLineBytes) {
@@ -141,7 +152,7 @@ TEST_F(OpeningAFile, ReadsAReadOnlyFile) {
 TEST_F(OpeningAFile, AFileThatCannotBeOpenedCountsAsOpenAndShowsZeros) {
 #ifdef __linux__
   // A running program cannot be opened for writing.
-  const std::string path = QCoreApplication::applicationFilePath().toStdString();
+  const std::string path = QApplication::applicationFilePath().toStdString();
   ChooseInList(Panel().cboMode, kListGba8);
   OpenRomFile(path);
   EXPECT_LT(hFile, 0);

@@ -10,6 +10,7 @@
 #include "editor/slots.h"
 #include "editor/windows/edit.h"
 #include "editor/windows/editor.h"
+#include "editor/windows/tile_control.h"
 #include "forms/keys.h"
 #include "shell/windows/options.h"
 #include "tile/modes.h"
@@ -109,12 +110,12 @@ TEST_F(PagePointer, EveryButtonButTheRightOneSelects) {
 TEST_F(PagePointer, TheRightButtonShowsTheMenuAndSelectsNothing) {
   OpenGba8();
   ClickPage(30, 30);
-  Frame().fbnBrowser.SetChecked(true);
   Frame().fbnTile.SetChecked(false);
+  ASSERT_TRUE(The<TileControl>().Visible());
   const std::string menu = MenuDuring([] { PressPage(Qt::RightButton, 100, 100); });
   EXPECT_EQ(menu, "mnuBrowser");
   EXPECT_EQ(SelColumn, 1);
-  EXPECT_FALSE(The<MainForm>().fbnTile.Checked());
+  EXPECT_FALSE(The<TileControl>().Visible()) << "the tools follow their buttons first";
 }
 
 TEST_F(PagePointer, ThereIsNoRangeTest) {
@@ -298,6 +299,20 @@ TEST_F(PageDrag, TheSelectedSlotIsTheOneWritten) {
   Page().vsbAddress.SetValue(1);
   Page().DragToBrowser(0, 0);
   std::fill_n(file.begin() + 512, 64, std::uint8_t{200});
+  EXPECT_EQ(FileBytes(FileName), file);
+}
+
+TEST_F(PageDrag, ASlotCanBeDraggedHereWithThePointer) {
+  auto file = OpenGba8();
+  EditSlots[18].Address = kUnaddressed;
+  EditSlots[18].Pixels.fill(55);
+  QTest::mousePress(&The<Editor>(), Qt::LeftButton, {}, QPoint(2 * 24 + 5, 24 + 5));
+  ASSERT_EQ(EditSelColumn, 2);
+  // Column 4, line 3 of the page.
+  const QPoint over =
+      QPoint(4 * 24 + 5, 3 * 24 + 5) + Page().ChildFrame()->pos() - The<Editor>().ChildFrame()->pos();
+  QTest::mouseRelease(&The<Editor>(), Qt::LeftButton, {}, over);
+  std::fill_n(file.begin() + (3 * 8 + 4) * 64, 64, std::uint8_t{55});
   EXPECT_EQ(FileBytes(FileName), file);
 }
 

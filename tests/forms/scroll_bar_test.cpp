@@ -3,9 +3,11 @@
 
 #include <gtest/gtest.h>
 
+#include <QApplication>
 #include <QStyle>
 #include <QStyleOptionSlider>
 #include <QTest>
+#include <QWheelEvent>
 #include <QWidget>
 
 namespace brolk {
@@ -99,6 +101,27 @@ TEST_F(ScrollBars, FollowTheArrowKeysInTheirOwnDirection) {
   EXPECT_EQ(vertical.Value(), 5);
   QTest::keyClick(&vertical, Qt::Key_Up);
   EXPECT_EQ(vertical.Value(), 4);
+}
+
+TEST_F(ScrollBars, FollowTheWheelByOneStepANotch) {
+  bar.SetLargeChange(16);
+  const auto turn = [this](int eighths) {
+    QWheelEvent event(QPointF(5, 5), bar.mapToGlobal(QPointF(5, 5)), {}, {0, eighths}, Qt::NoButton,
+                      Qt::NoModifier, Qt::NoScrollPhase, false);
+    QApplication::sendEvent(&bar, &event);
+  };
+  turn(-120);
+  EXPECT_EQ(bar.Value(), 9);
+  turn(240);
+  EXPECT_EQ(bar.Value(), 7);
+  turn(-60);
+  EXPECT_EQ(bar.Value(), 7) << "half a notch waits for the other half";
+  turn(-60);
+  EXPECT_EQ(bar.Value(), 8);
+  turn(12000);
+  EXPECT_EQ(bar.Value(), 2);
+  EXPECT_TRUE(scrolls.empty());
+  EXPECT_EQ(changes, (std::vector<int>{9, 7, 8, 2}));
 }
 
 TEST_F(ScrollBars, RunANestedChangeInsideTheRunningHandler) {
