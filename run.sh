@@ -9,7 +9,7 @@ echo "== Packages"
 scripts/install-packages.sh run
 echo "== Build (build/release)"
 cmake --preset release -DBROLK_BUILD_TESTS=OFF >/dev/null
-cmake --build --preset release --target brolkplus samples
+cmake --build --preset release --target brolkplus brolk_samples
 if [ -n "${DISPLAY:-}${WAYLAND_DISPLAY:-}" ]; then
   echo "== Start. A file to begin with: $PWD/build/release/samples"
   exec build/release/bin/brolkplus
