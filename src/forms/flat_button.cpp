@@ -4,6 +4,7 @@
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
+#include <algorithm>
 
 #include "forms/form.h"
 #include "forms/keys.h"
@@ -13,11 +14,15 @@ namespace brolk {
 namespace {
 
 constexpr int kPictureMarginPx = 3;
+// A button smaller than this in one direction gives its picture all the room it has.
+constexpr int kSmallButtonPx = 24;
 constexpr qreal kCornerPx = 3;
 
 // The square or word picture of a button keeps its shape and stays inside the frame.
 QRect PictureRect(const QRect& button, const QString& picture) {
-  if (picture.startsWith(QLatin1String("face-"))) return button;
+  if (picture.startsWith(QLatin1String("face-")) ||
+      std::min(button.width(), button.height()) < kSmallButtonPx)
+    return button;
   return button.adjusted(kPictureMarginPx, kPictureMarginPx, -kPictureMarginPx, -kPictureMarginPx);
 }
 
