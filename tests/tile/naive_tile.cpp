@@ -102,7 +102,6 @@ Bytes FetchTile(int mode, NaiveFile& file, Local& local) {
 }
 
 void ReadBitmapTile(NaiveFile& file, Local& local, BitmapShape shape, Bytes& pixels, std::size_t& at) {
-  const int area = shape.width * shape.height;
   if (shape.depth == 0) {
     for (int y = 0; y < shape.height; ++y) {
       file.Read(local[0]);
@@ -117,13 +116,13 @@ void ReadBitmapTile(NaiveFile& file, Local& local, BitmapShape shape, Bytes& pix
       at += 4;
     }
   } else if (shape.depth == 2) {
-    for (int i = 0; i < area / 2 % 256; ++i) {
+    for (int i = 0; i < BitmapReads(shape); ++i) {
       file.Read(local[0]);
       pixels.at(at++) = local[0] % 16;
       pixels.at(at++) = local[0] / 16;
     }
   } else {
-    for (int i = 0; i < area % 256; ++i) {
+    for (int i = 0; i < BitmapReads(shape); ++i) {
       file.Read(local[0]);
       pixels.at(at++) = local[0];
     }
@@ -146,6 +145,14 @@ void ReadSpriteTile(NaiveFile& file, Local& local, Bytes& pixels, std::size_t st
 }
 
 }  // namespace
+
+int BitmapReads(BitmapShape shape) {
+  if (shape.depth < 2) return shape.height;
+  int area = shape.width * shape.height % 65536;
+  if (area >= 32768) area -= 65536;
+  const int reads = shape.depth == 2 ? area / 2 : area;
+  return (reads % 256 + 256) % 256;
+}
 
 int NaiveTileBytes(int mode) {
   return 8 * NaiveBitsPerPixel(mode);

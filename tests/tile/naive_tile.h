@@ -48,6 +48,13 @@ struct BitmapShape {
   int width = 8;
   int height = 8;
 };
+
+// The bytes that one tile of this shape reads: at 4 and 8 bits per pixel the low byte of the area, counted in
+// 16 bits and halved at 4. 0: the tile never ends.
+[[nodiscard]] int BitmapReads(BitmapShape shape);
+
+// Reads `count` tiles of any mode from `address` on into `pixels`, which keeps what is not written. Entries
+// beyond its end throw std::out_of_range. No tile may be endless.
 void NaiveRead(int mode, NaiveFile& file, std::int64_t address, int count, BitmapShape shape, Bytes& pixels);
 
 }  // namespace brolk::test
