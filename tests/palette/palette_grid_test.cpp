@@ -52,8 +52,9 @@ TEST(PanelPress, ClampsOutsidePoints) {
 }
 
 TEST(PanelPress, ClampsToTheSizeOfThePictureMinusTwo) {
-  const PanelPoint point{300, 300, 50, 26};
-  EXPECT_EQ(PressedColorIndex(point, 4), 2 + 4 * 1) << "x 48 and y 24 in cells of 24";
+  EXPECT_EQ(PressedColorIndex({300, 300, 50, 26}, 4), 2 + 4 * 1) << "x 48 and y 24 in cells of 24";
+  EXPECT_EQ(PressedColorIndex({300, 300, 49, 25}, 4), 1 + 4 * 0) << "x 47 and y 23";
+  EXPECT_EQ(PressedColorIndex({48, 24, 49, 25}, 4), 1 + 4 * 0) << "the last pixel counts as the one before";
 }
 
 TEST(PanelPress, RoundsBeforeItDivides) {
