@@ -1,21 +1,11 @@
 // SPDX-License-Identifier: MIT
-#include "palette/windows/color_set.h"
+#include "palette/color_set_tool.h"
 
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
-#include <QMouseEvent>
-#include <QTest>
+#include <set>
 
-#include "forms/look.h"
-#include "forms/windows.h"
-#include "palette/color_sets.h"
-#include "palette/palette_model.h"
-#include "palette/windows/color_dialog.h"
 #include "palette/windows/palette_control.h"
-#include "shell/windows/main_form.h"
-#include "shell/windows/new_msg_box.h"
-#include "support/program.h"
 #include "tile/shared.h"
 
 namespace brolk::test {
@@ -25,61 +15,6 @@ using ::testing::ElementsAre;
 
 constexpr int kYes = 6;
 constexpr int kNo = 7;
-
-class ColorSetTool : public ::testing::Test {
- protected:
-  void SetUp() override {
-    StartProgram();
-    tool = &The<ColorSet>();
-    tool->Show();
-  }
-
-  // Adds a set of this name whose colours are all the same.
-  void Add(const QString& name, ColorValue color) {
-    Palette.fill(color);
-    tool->txtName.SetText(name);
-    ClickControl(tool->fbnAddSet);
-  }
-
-  void PressLine(int line) {
-    QTest::mouseClick(tool->lstSets.viewport(), Qt::LeftButton, {}, CenterOf(line));
-  }
-  void DoubleClickLine(int line) {
-    PressLine(line);
-    QTest::mouseDClick(tool->lstSets.viewport(), Qt::LeftButton, {}, CenterOf(line));
-  }
-  QPoint CenterOf(int line) { return tool->lstSets.visualItemRect(tool->lstSets.item(line)).center(); }
-
-  void Delete(Qt::MouseButton button = Qt::LeftButton) {
-    QTest::mousePress(&tool->fbnDeleteSet, button);
-    QTest::mouseRelease(&tool->fbnDeleteSet, button);
-  }
-
-  void Press(Qt::MouseButton button, QPointF at) {
-    QMouseEvent press(QEvent::MouseButtonPress, at, tool->picColor.mapToGlobal(at), button, button,
-                      Qt::NoModifier);
-    QApplication::sendEvent(&tool->picColor, &press);
-  }
-
-  [[nodiscard]] std::vector<std::string> Lines() const {
-    std::vector<std::string> lines;
-    for (int line = 0; line < tool->lstSets.ListCount(); ++line)
-      lines.push_back(tool->lstSets.List(line).toStdString());
-    return lines;
-  }
-
-  void ExpectPictureOf(int set) {
-    const int cell = tool->picColor.width() / 16;
-    for (int y = 0; y < tool->picColor.height(); ++y) {
-      for (int x = 0; x < tool->picColor.width(); ++x) {
-        ASSERT_EQ(tool->picColor.Canvas().GetPixel(x, y), Sets[set].Colors[y / cell * 16 + x / cell])
-            << x << ',' << y;
-      }
-    }
-  }
-
-  ColorSet* tool = nullptr;
-};
 
 TEST_F(ColorSetTool, HasItsCaptionTextsAndToolTips) {
   EXPECT_EQ(tool->Caption(), "Color Set");
@@ -112,11 +47,6 @@ TEST_F(ColorSetTool, StartsEmpty) {
   EXPECT_EQ(SelectedSet, 0);
   EXPECT_EQ(tool->lstSets.ListCount(), 0);
   EXPECT_EQ(tool->txtName.Text(), "");
-}
-
-TEST_F(ColorSetTool, PictureIsAMultipleOf16Wide) {
-  EXPECT_EQ(tool->picColor.width() % 16, 0);
-  EXPECT_EQ(tool->picColor.width(), tool->picColor.height());
 }
 
 TEST(ColorSetLoad, ForgetsCountAndSelection) {
@@ -376,125 +306,6 @@ TEST_F(ColorSetTool, AddsARandomSet) {
     EXPECT_LE(color, 0xFFFFFF);
   }
   ExpectPictureOf(0);
-}
-
-TEST_F(ColorSetTool, SetColorStoresAndShows) {
-  Add("one", 1);
-  tool->SetColor(0, 255, 0x778899);
-  EXPECT_EQ(Sets[0].Colors[255], 0x778899);
-  ExpectPictureOf(0);
-  EXPECT_EQ(FaultOf([&] { tool->SetColor(-1, 0, 0); }), FaultKind::SubscriptOutOfRange);
-  EXPECT_EQ(FaultOf([&] { tool->SetColor(256, 0, 0); }), FaultKind::SubscriptOutOfRange);
-  EXPECT_EQ(FaultOf([&] { tool->SetColor(0, 256, 0); }), FaultKind::SubscriptOutOfRange);
-}
-
-TEST_F(ColorSetTool, APressOnThePictureOpensThatColor) {
-  Add("one", 1);
-  Add("two", 2);
-  PressLine(1);
-  Sets[1].Colors[2 + 16 * 5] = 0x336699;
-  Press(Qt::LeftButton, {2 * 12 + 3, 5 * 12 + 11});
-  auto& dialog = The<ColorDialog>();
-  EXPECT_TRUE(dialog.Visible());
-  EXPECT_EQ(dialog.EditSet, 1);
-  EXPECT_EQ(dialog.EditIndex, 82);
-  EXPECT_EQ(dialog.vsbColor[0].Value(), 0x99);
-  EXPECT_EQ(dialog.vsbColor[1].Value(), 0x66);
-  EXPECT_EQ(dialog.vsbColor[2].Value(), 0x33);
-  EXPECT_EQ(dialog.Left(), tool->Left() + 75);
-  EXPECT_EQ(dialog.Top(), tool->Top() + 300);
-}
-
-TEST_F(ColorSetTool, AnyButtonOpensTheColorOnThePress) {
-  Add("one", 1);
-  int index = 0;
-  for (const auto button : {Qt::RightButton, Qt::MiddleButton, Qt::LeftButton}) {
-    ++index;
-    Press(button, QPointF(index * 12, 0));
-    EXPECT_EQ(The<ColorDialog>().EditIndex, index);
-  }
-}
-
-TEST_F(ColorSetTool, EveryCellOfThePictureCanBeReached) {
-  Add("one", 1);
-  for (int index = 0; index < 256; ++index) {
-    Press(Qt::LeftButton, QPointF(index % 16 * 12 + 11, index / 16 * 12 + 11));
-    EXPECT_EQ(The<ColorDialog>().EditIndex, index);
-  }
-}
-
-TEST_F(ColorSetTool, TheLastHalfPixelOfAScaledScreenIsTheLastCell) {
-  Add("one", 1);
-  Press(Qt::LeftButton, {191.5, 191.5});
-  EXPECT_EQ(The<ColorDialog>().EditIndex, 255);
-}
-
-TEST_F(ColorSetTool, ThePictureCanBeUsedByKeyboard) {
-  Add("one", 1);
-  for (const Qt::Key key : {Qt::Key_Right, Qt::Key_Down, Qt::Key_Space})
-    QTest::keyClick(&tool->picColor, key);
-  EXPECT_TRUE(The<ColorDialog>().Visible());
-  EXPECT_EQ(The<ColorDialog>().EditIndex, 17);
-}
-
-TEST_F(ColorSetTool, APressBeyondColumn15RunsOnIntoTheNextRow) {
-  Add("one", 1);
-  Press(Qt::LeftButton, {192, 0});
-  EXPECT_EQ(The<ColorDialog>().EditIndex, 16);
-}
-
-TEST_F(ColorSetTool, APressBelowTheCellsIsAFault) {
-  Add("one", 1);
-  EXPECT_EQ(FaultOf([&] { Press(Qt::LeftButton, QPointF(0, 192)); }), FaultKind::SubscriptOutOfRange);
-}
-
-TEST_F(ColorSetTool, APressOnThePictureOfAnEmptyListDoesNothing) {
-  Press(Qt::LeftButton, {5, 5});
-  Press(Qt::LeftButton, {0, 500});
-  EXPECT_FALSE(The<ColorDialog>().Visible());
-}
-
-TEST_F(ColorSetTool, ConfirmingAColorShowsItInThePicture) {
-  Add("one", 1);
-  Press(Qt::LeftButton, {0, 0});
-  QTest::keyClick(&The<ColorDialog>().vsbColor[0], Qt::Key_End);
-  ClickControl(The<ColorDialog>().lblColorPreview);
-  EXPECT_EQ(Sets[0].Colors[0], 255);
-  EXPECT_EQ(tool->picColor.Canvas().GetPixel(3, 3), 255);
-  EXPECT_EQ(tool->picColor.grab().toImage().pixelColor(3, 3), QColor(255, 0, 0));
-  EXPECT_EQ(Palette[0], 1) << "the live palette waits until the set is applied";
-}
-
-TEST_F(ColorSetTool, ActivationShowsTheSelectedSet) {
-  Add("one", 1);
-  Sets[0].Colors.fill(0x654321);
-  Sets[0].Name = "changed";
-  The<MainForm>().SetFocus();
-  tool->Form_Activate();
-  EXPECT_EQ(tool->picColor.Canvas().GetPixel(0, 0), 0x654321);
-  EXPECT_EQ(tool->txtName.Text(), "changed");
-}
-
-TEST_F(ColorSetTool, ShowingItAgainActivatesIt) {
-  Add("one", 1);
-  tool->Hide();
-  The<PaletteControl>().Show();
-  The<PaletteControl>().SetFocus();
-  Sets[0].Name = "changed";
-  tool->Show();
-  EXPECT_EQ(tool->txtName.Text(), "changed");
-}
-
-TEST_F(ColorSetTool, CloseHidesAndKeepsTheList) {
-  Add("one", 1);
-  ClickControl(tool->fbnClose);
-  EXPECT_FALSE(tool->Visible());
-  tool->Show();
-  EXPECT_THAT(Lines(), ElementsAre("one"));
-  tool->close();
-  EXPECT_FALSE(tool->Visible());
-  EXPECT_EQ(&The<ColorSet>(), tool);
-  EXPECT_EQ(SetCount, 1);
 }
 
 TEST_F(ColorSetTool, SaveButtonAsksForAFile) {
