@@ -12,8 +12,10 @@
 set(BROLK_MANUAL_SOURCE_DIR "${CMAKE_SOURCE_DIR}/docs/manual")
 set(BROLK_MANUAL_DIR "${CMAKE_BINARY_DIR}/manual")
 set(BROLK_MANUAL_FORMS)
-# Plain text stays as typed: no curly quotes, no formulas between dollar signs.
-set(BROLK_PANDOC_READ --from=markdown-smart-citations-tex_math_dollars --fail-if-warnings)
+# Plain text stays as typed: no curly quotes, no formulas between dollar signs. A picture in a
+# paragraph of its own gets no caption; its words are for those who cannot see it.
+set(BROLK_PANDOC_READ --from=markdown-smart-citations-tex_math_dollars-implicit_figures
+                      --fail-if-warnings)
 
 find_program(PANDOC_EXECUTABLE pandoc)
 find_program(CHMCMD_EXECUTABLE chmcmd)
@@ -46,6 +48,16 @@ function(brolk_release_date out)
   set(${out} "${date}" PARENT_SCOPE)
 endfunction()
 
+# The pictures of windows that a chapter shows: <out> = files of docs/pictures.
+function(brolk_chapter_pictures chapter out)
+  set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS
+               "${BROLK_MANUAL_SOURCE_DIR}/${chapter}.md")
+  file(READ "${BROLK_MANUAL_SOURCE_DIR}/${chapter}.md" text)
+  string(REGEX MATCHALL "[(][.][.]/pictures/[a-z0-9-]+[.]png[)]" found "${text}")
+  list(TRANSFORM found REPLACE "^[(][.][.]/(.*)[)]$" "${CMAKE_SOURCE_DIR}/docs/\\1")
+  set(${out} ${found} PARENT_SCOPE)
+endfunction()
+
 # One web page. <previous> and <next> are chapter names or empty.
 function(brolk_manual_page chapter previous next)
   brolk_manual_title(${chapter} title)
@@ -62,6 +74,7 @@ function(brolk_manual_page chapter previous next)
     set(contents "${BROLK_MANUAL_DIR}/contents.html")
     list(APPEND arguments "--include-after-body=${contents}")
   endif()
+  brolk_chapter_pictures(${chapter} pictures) # their sizes stand in the page
   # --ascii: help viewers differ in the character set that they assume.
   # --columns: no line is so wide that pandoc would give a table fixed column widths.
   add_custom_command(
@@ -73,7 +86,7 @@ function(brolk_manual_page chapter previous next)
       "--output=${BROLK_MANUAL_DIR}/html/${chapter}.html" "${BROLK_MANUAL_SOURCE_DIR}/${chapter}.md"
     DEPENDS "${BROLK_MANUAL_SOURCE_DIR}/${chapter}.md"
             "${BROLK_MANUAL_SOURCE_DIR}/theme/page.html"
-            "${BROLK_MANUAL_SOURCE_DIR}/tools/manual.lua" ${contents}
+            "${BROLK_MANUAL_SOURCE_DIR}/tools/manual.lua" ${contents} ${pictures}
     VERBATIM)
 endfunction()
 
@@ -103,9 +116,31 @@ function(brolk_manual_icons chapters out)
   set(${out} ${pictures} PARENT_SCOPE)
 endfunction()
 
+# Copies of the pictures of windows that the chapters show. <out> = files.
+function(brolk_manual_pictures chapters out)
+  set(sources)
+  foreach(chapter IN LISTS chapters)
+    brolk_chapter_pictures(${chapter} shown)
+    list(APPEND sources ${shown})
+  endforeach()
+  list(REMOVE_DUPLICATES sources)
+  set(pictures)
+  foreach(source IN LISTS sources)
+    get_filename_component(name "${source}" NAME)
+    set(picture "${BROLK_MANUAL_DIR}/html/pictures/${name}")
+    add_custom_command(
+      OUTPUT "${picture}"
+      COMMAND "${CMAKE_COMMAND}" -E copy "${source}" "${picture}"
+      DEPENDS "${source}"
+      VERBATIM)
+    list(APPEND pictures "${picture}")
+  endforeach()
+  set(${out} ${pictures} PARENT_SCOPE)
+endfunction()
+
 # All web pages with their style. <out> = the files.
 function(brolk_manual_html chapters out)
-  file(MAKE_DIRECTORY "${BROLK_MANUAL_DIR}/html/icons")
+  file(MAKE_DIRECTORY "${BROLK_MANUAL_DIR}/html/icons" "${BROLK_MANUAL_DIR}/html/pictures")
   set(pages)
   set(previous)
   list(LENGTH chapters count)
@@ -128,7 +163,8 @@ function(brolk_manual_html chapters out)
   else()
     message(STATUS "Manual: rsvg-convert not found, the pages show no button pictures")
   endif()
-  set(${out} ${pages} ${icons} PARENT_SCOPE)
+  brolk_manual_pictures("${chapters}" pictures)
+  set(${out} ${pages} ${icons} ${pictures} PARENT_SCOPE)
 endfunction()
 
 # Contents of the front page, and the project files of the compiled help. <out> = the files.

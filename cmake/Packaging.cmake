@@ -132,12 +132,23 @@ function(brolk_install_documents out)
   set(${out} ${built} PARENT_SCOPE)
 endfunction()
 
+# The sample ROMs, where Debian keeps examples; nothing if this build makes none.
+function(brolk_install_samples)
+  get_directory_property(samples DIRECTORY "${CMAKE_SOURCE_DIR}/samples" DEFINITION sample_files)
+  if(samples)
+    install(FILES ${samples} DESTINATION "${BROLK_DOC_DIR}/examples")
+  else()
+    message(STATUS "Packaging: this build makes no sample ROMs, they are left out")
+  endif()
+endfunction()
+
 # Every folder that an installation can have to make, for the uninstall.
 function(brolk_record_install_folders)
   set(BROLK_INSTALL_FOLDERS
       "${CMAKE_INSTALL_BINDIR}" "${BROLK_PROGRAM_DIR}" "${CMAKE_INSTALL_DATADIR}/applications"
       "${CMAKE_INSTALL_DATADIR}/metainfo" "${CMAKE_INSTALL_DATADIR}/mime/packages"
       "${CMAKE_INSTALL_DATADIR}/icons/hicolor/scalable/apps" "${BROLK_DOC_DIR}/manual/icons"
+      "${BROLK_DOC_DIR}/manual/pictures" "${BROLK_DOC_DIR}/examples"
       "${CMAKE_INSTALL_MANDIR}/man1")
   foreach(size IN LISTS BROLK_ICON_SIZES)
     list(APPEND BROLK_INSTALL_FOLDERS
@@ -158,6 +169,7 @@ function(brolk_add_install)
     brolk_install_desktop_files("${generated}" desktopFiles)
   endif()
   brolk_install_documents(documents)
+  brolk_install_samples()
   add_custom_target(packaging ALL DEPENDS ${desktopFiles} ${documents})
   if(TARGET manual)
     add_dependencies(packaging manual)

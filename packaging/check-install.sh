@@ -51,7 +51,8 @@ install_into_prefix() {
     "share/applications/$app_id.desktop" "share/metainfo/$app_id.metainfo.xml" \
     share/mime/packages/brolkplus.xml "share/icons/hicolor/scalable/apps/$app_id.svg" \
     "share/icons/hicolor/256x256/apps/$app_id.png" share/man/man1/brolkplus.1.gz \
-    share/doc/brolkplus/copyright share/doc/brolkplus/manual/index.html; do
+    share/doc/brolkplus/copyright share/doc/brolkplus/manual/index.html \
+    share/doc/brolkplus/manual/pictures/main.png share/doc/brolkplus/examples/sampler.gba; do
     [ -e "$prefix/$wanted" ] || fail "$wanted was not installed"
   done
   [ "$(readlink "$prefix/bin/brolkplus")" = ../lib/brolkplus/brolkplus ] ||
@@ -89,6 +90,19 @@ check_file_types() {
   fi
   have update-mime-database || return 0
   "$source/packaging/tests/check_mime.sh" "$prefix/share/mime/packages/brolkplus.xml"
+}
+
+# The manual tells where the sample ROMs lie and which there are.
+check_samples() {
+  say "Sample ROMs"
+  local folder=$prefix/share/doc/brolkplus/examples chapter=$source/docs/manual/sample.md sample
+  grep -q '`/usr/share/doc/brolkplus/examples`' "$chapter" || fail "the manual tells another folder"
+  sed -n 's/^| `\(sampler[.][a-z]*\)` .*/\1/p' "$chapter" | LC_ALL=C sort >"$work/told-samples"
+  (cd "$folder" && find . -type f -printf '%P\n' | LC_ALL=C sort) | diff "$work/told-samples" - ||
+    fail "the manual tells of other sample ROMs"
+  while IFS= read -r sample; do
+    [ "$(stat -c %s "$folder/$sample")" = 131072 ] || fail "$sample has another length"
+  done <"$work/told-samples"
 }
 
 check_man_page() {
@@ -206,6 +220,7 @@ list_files "$prefix" >"$work/installed-files"
 check_desktop_entry
 check_metainfo
 check_file_types
+check_samples
 check_man_page
 check_manual
 check_start

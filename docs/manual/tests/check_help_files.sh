@@ -24,9 +24,9 @@ fi
 
 cd "$manual/html"
 count=0
-for file in *.html manual.css manual.hhc manual.hhk icons/*.png; do
+for file in *.html manual.css manual.hhc manual.hhk icons/*.png pictures/*.png; do
   cmp "$file" "$unpacked/$file"
   count=$((count + 1))
 done
-[ "$count" -gt 40 ] || { echo "Only $count files in the help file"; exit 1; }
+[ "$count" -gt 60 ] || { echo "Only $count files in the help file"; exit 1; }
 echo "$count files are in the help files"

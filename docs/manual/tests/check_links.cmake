@@ -1,12 +1,13 @@
 # SPDX-License-Identifier: MIT
 # Every link, picture and anchor inside the web pages leads somewhere, and so does every entry of
-# the compiled help's contents and index; every page is in the reading order.
+# the compiled help's contents and index; every page is in the reading order, every window is shown.
 #
 # cmake -DHTML_DIR=build/manual/html -DSOURCE_DIR=docs/manual -P check_links.cmake
 
 cmake_minimum_required(VERSION 3.25)
 set(problems 0)
 set(checked 0)
+set(shown)
 
 # <out> = all values of <attribute> in <text>.
 function(attribute_values text attribute out)
@@ -57,6 +58,7 @@ foreach(page IN LISTS pages)
   read_plain("${HTML_DIR}/${page}" text)
   attribute_values("${text}" "href" links)
   attribute_values("${text}" "src" pictures)
+  list(APPEND shown ${pictures})
   foreach(target IN LISTS links pictures)
     if(NOT target MATCHES "^(https?|mailto):")
       check_target("${page}" "${target}")
@@ -71,6 +73,23 @@ foreach(list manual.hhc manual.hhk)
   foreach(target IN LISTS locals)
     check_target("${list}" "${target}")
   endforeach()
+endforeach()
+
+# The pictures of windows are those of docs/pictures as they are now, and all of them are shown.
+file(GLOB windows RELATIVE "${SOURCE_DIR}/../pictures" "${SOURCE_DIR}/../pictures/*.png")
+if(NOT windows)
+  complain("docs/pictures holds no picture")
+endif()
+foreach(window IN LISTS windows)
+  if(NOT "pictures/${window}" IN_LIST shown)
+    complain("No chapter shows the picture ${window}")
+  else()
+    file(SHA256 "${SOURCE_DIR}/../pictures/${window}" wanted)
+    file(SHA256 "${HTML_DIR}/pictures/${window}" found)
+    if(NOT wanted STREQUAL found)
+      complain("pictures/${window} is not the one of docs/pictures")
+    endif()
+  endif()
 endforeach()
 
 # A chapter that is not in the reading order would never be built, and so never be found.

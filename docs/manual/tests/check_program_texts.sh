@@ -22,7 +22,7 @@ find src -name '*.h' -o -name '*.cpp' | LC_ALL=C sort | xargs sed 's|^ *//.*||; 
 
 # The manual as its reader sees it: without marks, in one line.
 cat $manual/*.md | tr '\n' ' ' |
-  sed 's/!\[\]([^)]*)//g; s/\](\([^)]*\))//g; s/[][*`\\>]//g; s/  */ /g' >"$work/manual"
+  sed 's/!\[[^]]*\]([^)]*)//g; s/\](\([^)]*\))//g; s/[][*`\\>]//g; s/  */ /g' >"$work/manual"
 
 awk -v manualFile="$work/manual" -v exceptionsFile="$manual/tests/not-told.txt" '
   BEGIN {

@@ -1,12 +1,33 @@
 -- SPDX-License-Identifier: MIT
 -- Turns the links and pictures of a chapter into those of the finished form: web pages and help
--- files link to .html and show .png icons; the man page has neither.
+-- files link to .html and show .png icons and pictures of windows; the man page has neither.
 
 local is_man = FORMAT:match("^man") ~= nil
 local in_page_contents_from = 4 -- a page with this many sections lists them at its top
 
 local function icon_name(source)
   return source:match("assets/icons/([%w-]+)%.svg$")
+end
+
+-- Width and height in pixels of a PNG file: two numbers, highest byte first, at offset 16.
+local function png_size(path)
+  local file = assert(io.open(path, "rb"))
+  local head = file:read(24)
+  file:close()
+  assert(head and head:sub(2, 4) == "PNG", path .. " is no PNG file")
+  return string.unpack(">I4I4", head, 17)
+end
+
+-- The picture of a window, with its size, so that the page does not jump while it loads.
+local function show_window(image, name)
+  local folder = pandoc.path.directory(PANDOC_STATE.input_files[1])
+  local width, height = png_size(pandoc.path.join({ folder, image.src }))
+  assert(#image.caption > 0, image.src .. " needs words for those who cannot see it")
+  image.src = "pictures/" .. name .. ".png"
+  image.classes = { "window" }
+  image.attributes.width = tostring(width)
+  image.attributes.height = tostring(height)
+  return image
 end
 
 function Link(link)
@@ -20,6 +41,10 @@ end
 function Image(image)
   if is_man then
     return {}
+  end
+  local window = image.src:match("^%.%./pictures/([%w-]+)%.png$")
+  if window then
+    return show_window(image, window)
   end
   local name = icon_name(image.src)
   if name then
