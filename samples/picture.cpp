@@ -57,7 +57,7 @@ class Cover final {
  public:
   explicit Cover(const std::string& folder)
       : folder_(folder), letters_(ReadLetters(folder + "/letters.txt")) {
-    picture_.pixels.resize(static_cast<std::size_t>(kCoverWidth * kCoverHeight));
+    picture_.pixels.resize(std::size_t{kCoverWidth} * kCoverHeight);
   }
 
   void Draw(const std::string& command) {
@@ -80,7 +80,8 @@ class Cover final {
  private:
   void Set(int x, int y, std::uint8_t color) {
     if (x < 0 || y < 0 || x >= kCoverWidth || y >= kCoverHeight || color == kThrough) return;
-    picture_.pixels[static_cast<std::size_t>(y * kCoverWidth + x)] = color;
+    const int at = y * kCoverWidth + x;
+    picture_.pixels[static_cast<std::size_t>(at)] = color;
   }
 
   void Fill(std::istream& words) {

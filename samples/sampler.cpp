@@ -30,11 +30,12 @@ std::uint8_t ColorInMode(std::uint8_t color, int y, int bitsPerPixel) {
 
 std::array<std::uint8_t, kTilePixels> TileOf(const Picture& cover, int tile, int bitsPerPixel) {
   std::array<std::uint8_t, kTilePixels> pixels{};
+  auto* next = pixels.data();
   for (int y = 0; y < kTileSidePx; ++y) {
     const int coverY = tile / kTilesAcross * kTileSidePx + y;
     for (int x = 0; x < kTileSidePx; ++x) {
       const std::uint8_t color = cover.At(tile % kTilesAcross * kTileSidePx + x, coverY);
-      pixels[static_cast<std::size_t>(y * kTileSidePx + x)] = ColorInMode(color, coverY, bitsPerPixel);
+      *next++ = ColorInMode(color, coverY, bitsPerPixel);
     }
   }
   return pixels;

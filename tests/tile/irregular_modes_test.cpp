@@ -226,7 +226,9 @@ TEST(BitmapMode, UsesTheLastEntryWhenTheCallEndsThere) {
   EXPECT_EQ(PageBuffer[32766], 9);
   EXPECT_EQ(PageBuffer[32767], kUntouched);
   SetShape(k2Bpp, 8, 1);  // entries 0, 4, ..., 65536
+  const std::int64_t before = FileReadCalls();
   ReadTile(file.Handle(), 0, 16385);
+  EXPECT_EQ(FileReadCalls() - before, 1);
   EXPECT_EQ(PageBuffer[65536], 1);
   ExpectFault(file, 16386);
 }
