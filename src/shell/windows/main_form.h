@@ -120,10 +120,11 @@ class MainForm final : public Form {
   void BuildToolbar();
   void BuildInfoPanel();
   void BuildMenus();
-  void WireBrowserMenu();
-  void WireEditorMenu();
-  void WireTileMenu();
-  void WireHelpMenu();
+  void BuildRecentMenu();
+  void BuildBrowserMenu();
+  void BuildEditorMenu();
+  void BuildTileMenu();
+  void BuildHelpMenu();
   // The end of the frame: raises its unload event once, which quits and ends the process.
   static void UnloadFrame();
 };

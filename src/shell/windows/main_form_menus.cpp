@@ -82,11 +82,25 @@ void Wire(std::initializer_list<Command> commands) {
 void MainForm::BuildMenus() {
   menuBar.setObjectName(QStringLiteral("menuBar"));
   menuBar.setNativeMenuBar(false);
+  BuildRecentMenu();
+  BuildBrowserMenu();
+  BuildEditorMenu();
+  BuildTileMenu();
+  BuildHelpMenu();
+  for (QMenu* menu : {&mnuBrowser, &mnuEditor, &mnuTile, &mnuHelp}) menuBar.addMenu(menu);
+}
+
+void MainForm::BuildRecentMenu() {
   FillMenu(mnuRecentMain, "mnuRecentMain", {});
-  for (MenuItem& recent : mnuRecent) {
-    recent.setEnabled(false);
-    mnuRecentMain.addAction(&recent);
+  for (int number = 1; number <= kRecentCount; ++number) {
+    MenuItem& item = mnuRecent[number - 1];
+    mnuRecentMain.addAction(&item);
+    item.setEnabled(false);
+    item.Click = [number] { OpenRom(static_cast<std::uint8_t>(number)); };
   }
+}
+
+void MainForm::BuildBrowserMenu() {
   FillMenu(mnuBrowser, "mnuBrowser",
            {{&mnuOpen},
             {&mnuClose},
@@ -97,6 +111,18 @@ void MainForm::BuildMenus() {
             {nullptr, "mnuBreak7"},
             {&mnuExit}});
   mnuBrowser.insertMenu(mnuBrowser.actions().at(2), &mnuRecentMain);
+  Wire({
+      {mnuOpen, Prefix::Browser, [] { The<BrowserControl>().fbnOpenFile_MouseDown(kLeftButton, 0, 0, 0); }},
+      {mnuClose, Prefix::Browser, [] { The<BrowserControl>().fbnCloseFile_Click(); }},
+      {mnuZoomIn, Prefix::Browser, [] { The<BrowserControl>().fbnBrowserZoomIn_Click(); }},
+      {mnuZoomOut, Prefix::Browser, [] { The<BrowserControl>().fbnBrowserZoomOut_Click(); }},
+      // The state alone: the page follows at the next click of the button itself.
+      {mnuGrid, Prefix::Browser, [] { Invert(The<BrowserControl>().fbnGrid); }},
+      {mnuExit, Prefix::None, [] { QuitProgram(); }},
+  });
+}
+
+void MainForm::BuildEditorMenu() {
   FillMenu(mnuEditor, "mnuEditor",
            {{&mnuSelectMode},
             {&mnuPaintMode},
@@ -111,42 +137,7 @@ void MainForm::BuildMenus() {
             {&mnuResize},
             {&mnuEditorGrid},
             {&mnuNonCopied}});
-  FillMenu(mnuTile, "mnuTile",
-           {{&mnuTileSave},
-            {&mnuTileSaveSelected},
-            {&mnuTileSaveAddress},
-            {nullptr, "mnuBreak3"},
-            {&mnuTileReload},
-            {&mnuTileClear},
-            {nullptr, "mnuBreak4"},
-            {&mnuTileMirror},
-            {&mnuTileFlip},
-            {&mnuTileRotate}});
-  FillMenu(mnuHelp, "mnuHelp", {{&mnuHelpFile}, {&mnuOption}, {nullptr, "mnuBreak5"}, {&mnuAbout}});
-  for (QMenu* menu : {&mnuBrowser, &mnuEditor, &mnuTile, &mnuHelp}) menuBar.addMenu(menu);
   mnuSelectMode.SetChecked(true);
-  WireBrowserMenu();
-  WireEditorMenu();
-  WireTileMenu();
-  WireHelpMenu();
-}
-
-void MainForm::WireBrowserMenu() {
-  Wire({
-      {mnuOpen, Prefix::Browser, [] { The<BrowserControl>().fbnOpenFile_MouseDown(kLeftButton, 0, 0, 0); }},
-      {mnuClose, Prefix::Browser, [] { The<BrowserControl>().fbnCloseFile_Click(); }},
-      {mnuZoomIn, Prefix::Browser, [] { The<BrowserControl>().fbnBrowserZoomIn_Click(); }},
-      {mnuZoomOut, Prefix::Browser, [] { The<BrowserControl>().fbnBrowserZoomOut_Click(); }},
-      // The state alone: the page follows at the next click of the button itself.
-      {mnuGrid, Prefix::Browser, [] { Invert(The<BrowserControl>().fbnGrid); }},
-      {mnuExit, Prefix::None, [] { QuitProgram(); }},
-  });
-  for (int number = 1; number <= kRecentCount; ++number) {
-    mnuRecent[number - 1].Click = [number] { OpenRom(static_cast<std::uint8_t>(number)); };
-  }
-}
-
-void MainForm::WireEditorMenu() {
   Wire({
       {mnuSelectMode, Prefix::Editor, [this] { ChooseTool(kSelectTool); }},
       {mnuPaintMode, Prefix::Editor, [this] { ChooseTool(kPaintTool); }},
@@ -164,7 +155,18 @@ void MainForm::WireEditorMenu() {
   });
 }
 
-void MainForm::WireTileMenu() {
+void MainForm::BuildTileMenu() {
+  FillMenu(mnuTile, "mnuTile",
+           {{&mnuTileSave},
+            {&mnuTileSaveSelected},
+            {&mnuTileSaveAddress},
+            {nullptr, "mnuBreak3"},
+            {&mnuTileReload},
+            {&mnuTileClear},
+            {nullptr, "mnuBreak4"},
+            {&mnuTileMirror},
+            {&mnuTileFlip},
+            {&mnuTileRotate}});
   Wire({
       {mnuTileSave, Prefix::Tile, [] { The<TileControl>().fbnSaveTile_Click(); }},
       {mnuTileSaveSelected, Prefix::Tile, [] { The<TileControl>().fbnCopySelTile_Click(); }},
@@ -178,7 +180,8 @@ void MainForm::WireTileMenu() {
   });
 }
 
-void MainForm::WireHelpMenu() {
+void MainForm::BuildHelpMenu() {
+  FillMenu(mnuHelp, "mnuHelp", {{&mnuHelpFile}, {&mnuOption}, {nullptr, "mnuBreak5"}, {&mnuAbout}});
   Wire({
       // Without a folder, so looked for in the current folder of the process; the toolbar's button opens
       // another file.

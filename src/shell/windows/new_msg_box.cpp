@@ -23,7 +23,8 @@ constexpr std::array<double, kMsgButtonCount> kRowTops = {120, 720, 1320};
 // What a screen reader says for a face; the face itself is a picture of the word.
 constexpr std::array<const char*, 7> kFaceWords = {"OK", "Cancel", "Yes", "No", "Abort", "Retry", "Ignore"};
 
-// The window that the box belongs to: the active one, else the one that is known to have been, else the frame.
+// The window that the box belongs to: the active one, else the one that is known to have been, else the
+// frame.
 Form* OwnerForm() {
   auto* active = dynamic_cast<Form*>(QApplication::activeWindow());
   if (active != nullptr && active->Visible()) return active;
