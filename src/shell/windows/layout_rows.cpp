@@ -124,7 +124,6 @@ void SetNonCopiedShown(std::int16_t yes) {
 
 using enum LayoutGroup;
 
-// clang-format off: one row, one line
 constexpr LayoutRow kRows[] = {
     {"ShowBrowser", Flag, 0, Fixed<1>, Checked<MainForm, &MainForm::fbnBrowser>, SetBrowserTool},
     {"ShowEditor", Flag, 0, Fixed<1>, Checked<MainForm, &MainForm::fbnEditor>, SetTool<&MainForm::fbnEditor>},
@@ -173,7 +172,6 @@ constexpr LayoutRow kRows[] = {
     {"ColorDialogLeft", Centered, 0, CentreX<ColorDialog>, Left<ColorDialog>, SetLeft<ColorDialog>},
     {"ColorDialogTop", Centered, 0, CentreY<ColorDialog>, Top<ColorDialog>, SetTop<ColorDialog>},
 };
-// clang-format on
 
 }  // namespace
 
