@@ -102,6 +102,46 @@ constexpr std::array<TileDecoder, kModeCount> AllDecoders(std::index_sequence<mo
   return {DecoderFor<modes>()...};
 }
 
+constexpr std::size_t kSpriteBytes = 128;
+constexpr std::size_t kSpriteEntries = 256;
+constexpr std::size_t kSpriteRows = 16;
+constexpr std::size_t kSpritePlanes = 4;
+
+// The first byte of a row, moved on by four bits: the entries that it fills lie that far behind those of the
+// second byte, so they take the low half of the row before.
+unsigned MovedOn(const std::uint8_t* plane, std::size_t row) {
+  const unsigned before = row == 0 ? 0 : plane[2 * row - 2];
+  const unsigned here = row == kSpriteRows ? 0 : plane[2 * row];
+  return (before << 4 | here >> 4) & 0xFFU;
+}
+
+// The eight even entries of a row. In the first plane the second byte stands alone: its zeroing comes after
+// what the first byte put there.
+std::uint64_t SpriteRow(const std::uint8_t* sprite, std::size_t row) {
+  constexpr const auto& kTable = kSpread<std::uint64_t, LeftmostPixel::InHighBits>;
+  std::uint64_t sum = kTable[sprite[2 * row + 1]];
+  for (std::size_t plane = 1; plane < kSpritePlanes; ++plane) {
+    const std::uint8_t* bytes = sprite + plane * 2 * kSpriteRows;
+    sum += (kTable[bytes[2 * row + 1]] + kTable[MovedOn(bytes, row)]) << plane;
+  }
+  return sum;
+}
+
+// The four even entries behind a sprite, which the next one overwrites.
+std::uint64_t BehindSprite(const std::uint8_t* sprite) {
+  std::uint64_t sum = 0;
+  for (std::size_t plane = 0; plane < kSpritePlanes; ++plane) {
+    const unsigned moved = MovedOn(sprite + plane * 2 * kSpriteRows, kSpriteRows);
+    sum += kSpread<std::uint64_t, LeftmostPixel::InHighBits>[moved] << plane;
+  }
+  return sum;
+}
+
+void StoreEven(std::uint64_t lanes, std::size_t count, std::uint8_t* pixels) {
+  const auto values = std::bit_cast<std::array<std::uint8_t, sizeof lanes>>(lanes);
+  for (std::size_t x = 0; x < count; ++x) pixels[2 * x] = values[x];
+}
+
 constexpr auto kPortableDecoders = AllDecoders(std::make_index_sequence<kModeCount>());
 
 }  // namespace
@@ -112,6 +152,19 @@ std::size_t RegularTileBytes(std::uint8_t mode) {
 
 TileDecoder PortableDecoderOf(std::uint8_t mode) {
   return mode < kModeCount ? kPortableDecoders[mode] : nullptr;
+}
+
+void DecodeSprites(std::span<const std::uint8_t> bytes, std::span<std::uint8_t> pixels) {
+  const std::size_t count = bytes.size() / kSpriteBytes;
+  if (count == 0) return;
+  for (std::size_t sprite = 0; sprite < count; ++sprite) {
+    std::uint8_t* target = pixels.data() + sprite * kSpriteEntries;
+    for (std::size_t row = 0; row < kSpriteRows; ++row) {
+      StoreEven(SpriteRow(bytes.data() + sprite * kSpriteBytes, row), 8, target + 16 * row);
+    }
+  }
+  StoreEven(BehindSprite(bytes.data() + (count - 1) * kSpriteBytes), 4,
+            pixels.data() + count * kSpriteEntries);
 }
 
 TileDecoder DecoderOf(std::uint8_t mode) {

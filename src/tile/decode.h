@@ -24,4 +24,9 @@ using TileDecoder = void (*)(std::span<const std::uint8_t> bytes, std::span<std:
 // The decoder in vectors of 32 bytes; a null pointer where the mode or the machine has none.
 [[nodiscard]] TileDecoder VectorDecoderOf(std::uint8_t mode);
 
+// Decodes PC Engine sprites, each of 128 bytes, to the pixels that the byte-by-byte steps of exact_read.h
+// leave. bytes: whole sprites. pixels: 256 entries for each and 7 more, which take the end of the last one.
+// Odd entries stay as they are.
+void DecodeSprites(std::span<const std::uint8_t> bytes, std::span<std::uint8_t> pixels);
+
 }  // namespace brolk

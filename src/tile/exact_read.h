@@ -26,7 +26,8 @@ namespace brolk {
 // passes. Writing an entry above 65536 is the subscript fault; what was written before stays.
 void ReadTilesByteByByte(std::int16_t handle, std::int16_t count);
 
-// The same from bytes in memory, for the modes without a decoder; `bytes` holds as many as BytesOfCall tells.
+// The same from bytes in memory, for Bitmap Mode, which has no decoder; `bytes` holds as many as BytesOfCall
+// tells.
 void ReadTilesFromMemory(std::span<const std::uint8_t> bytes, std::int16_t count);
 
 }  // namespace brolk

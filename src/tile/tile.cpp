@@ -10,6 +10,7 @@
 #include "tile/decode.h"
 #include "tile/exact_read.h"
 #include "tile/layout.h"
+#include "tile/modes.h"
 #include "tile/shared.h"
 
 namespace brolk {
@@ -23,6 +24,7 @@ bool LiesInFile(std::int16_t handle, std::int32_t address, std::size_t bytes) {
 }
 
 void DecodeBlock(std::span<const std::uint8_t> bytes, std::int16_t count) {
+  if (GfxMode == kPcEngineSprite) return DecodeSprites(bytes, PageBuffer.All());
   const TileDecoder decode = DecoderOf(GfxMode);
   if (decode == nullptr) return ReadTilesFromMemory(bytes, count);
   decode(bytes, PageBuffer.All().first(static_cast<std::size_t>(count) * kTilePixels));

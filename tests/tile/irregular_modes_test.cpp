@@ -237,7 +237,7 @@ TEST(PcEngineSprite, EqualsTheNaiveTwin) {
   RandomBytes random;
   SCOPED_TRACE(random.Text());
   GfxMode = kPcEngineSprite;
-  for (const int length : {0, 1, 7, 8, 9, 33, 127, 128, 129, 256, 1300}) {
+  for (const int length : {0, 1, 7, 8, 9, 33, 127, 128, 129, 256, 1300, 5000}) {
     const Bytes content = random.Take(static_cast<std::size_t>(length));
     const TempFile file(content);
     for (const int address : {0, 3, length - 128, length - 1, length, -1}) {
