@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "forms/lists.h"
 
+#include <QAbstractItemView>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QSignalBlocker>
@@ -8,6 +9,11 @@
 #include "forms/look.h"
 
 namespace brolk {
+namespace {
+
+constexpr int kMostLinesDropped = 20;
+
+}  // namespace
 
 void ApplyBoxColors(QWidget& control) {
   QPalette colors = control.palette();
@@ -29,7 +35,9 @@ ComboList::ComboList(QWidget& parent, const char* name, const QString& toolTip, 
   setAccessibleName(toolTip.isEmpty() ? objectName() : toolTip);
   setEditable(kind == Kind::FreeText);
   setInsertPolicy(QComboBox::NoInsert);
+  setMaxVisibleItems(kMostLinesDropped);
   ApplyBoxColors(*this);
+  ApplyBoxColors(*view());
   connect(this, &QComboBox::activated, this, [this] {
     if (Click) Click();
   });

@@ -44,6 +44,13 @@ class ProgramStyle final : public QProxyStyle {
         return QProxyStyle::pixelMetric(metric, option, widget);
     }
   }
+
+  // A drop-down list opens below its box, in the colours of the box.
+  int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                QStyleHintReturn* answer) const override {
+    if (hint == SH_ComboBox_Popup) return 0;
+    return QProxyStyle::styleHint(hint, option, widget, answer);
+  }
 };
 
 QString FontFamily() {
