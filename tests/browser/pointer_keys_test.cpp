@@ -80,6 +80,14 @@ TEST_F(PagePointer, ActivationBringsTheLineBytesUpToTheMode) {
   EXPECT_EQ(Line, 16);
 }
 
+TEST_F(PagePointer, APressOnTheScrollBarActivatesThePageToo) {
+  OpenGba8();
+  ChooseInList(Panel().cboMode, kListGameboy);
+  ASSERT_EQ(LineBytes, 512);
+  ClickArrowUp(Page().vsbAddress);
+  EXPECT_EQ(LineBytes, 128);
+}
+
 TEST_F(PagePointer, APressOnTheActivePageLeavesTheLineBytes) {
   OpenGba8();
   ClickPage(1, 1);
@@ -105,6 +113,8 @@ TEST_F(PagePointer, EveryButtonButTheRightOneSelects) {
   EXPECT_EQ(SelColumn, 2);
   PressPage(Qt::LeftButton, 80, 10);
   EXPECT_EQ(SelColumn, 3);
+  Page().Form_MouseDown(kLeftButton | kRightButton, 0, 100, 10);
+  EXPECT_EQ(SelColumn, 4) << "both together are not the right one";
 }
 
 TEST_F(PagePointer, TheRightButtonShowsTheMenuAndSelectsNothing) {

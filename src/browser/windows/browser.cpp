@@ -57,6 +57,7 @@ void ShowSelectedAddress(std::int32_t address) {
 
 Browser::Browser()
     : DrawingForm({"Browser", "Browser", FormKind::Child, FormBorder::Fixed, 3140, 5760}, kBackColor) {
+  vsbAddress.setAccessibleName(QStringLiteral("Position in the file"));
   vsbAddress.SetLargeChange(kLargeScrollStep);
   vsbAddress.Change = RedrawFromScroll;
   vsbAddress.Scroll = RedrawFromScroll;
