@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "tile/modes.h"
 
+#include "tile/layout.h"
+
 namespace brolk {
 namespace {
 
@@ -22,6 +24,18 @@ constexpr GraphicsModeRecord kStartModes[kModeCount] = {
     // 32 although a sprite takes 128 bytes of the file: the page arithmetic counts it so.
     {"PC Engine 16x16 sprite", 32, 4},
 };
+
+// The regular modes count the bytes and bits of their layout.
+constexpr bool AgreesWithLayouts() {
+  for (std::size_t mode = 0; mode < kModeCount; ++mode) {
+    const TileLayout& layout = kTileLayouts[mode];
+    const bool agrees = kStartModes[mode].BytesPerTile == layout.bytesPerTile &&
+                        kStartModes[mode].BitsPerPixel == layout.bitsPerPixel;
+    if (layout.bytesPerTile > 0 && !agrees) return false;
+  }
+  return true;
+}
+static_assert(AgreesWithLayouts());
 
 }  // namespace
 
