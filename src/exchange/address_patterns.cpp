@@ -2,7 +2,6 @@
 #include "exchange/address_patterns.h"
 
 #include "editor/slots.h"
-#include "runtime/byte_reads.h"
 #include "runtime/files.h"
 #include "tile/shared.h"
 #include "tile/tile.h"
@@ -12,28 +11,28 @@ namespace {
 
 constexpr std::string_view kMagic = "BXA";
 
-bool ReadAddress(std::int16_t handle, std::int32_t& address) {
+bool ReadAddress(ByteReader& reader, std::int32_t& address) {
   std::array<std::uint8_t, 4> bytes{};
   for (std::uint8_t& byte : bytes) {
-    if (!ReadByte(handle, byte)) return false;
+    if (!reader.Next(byte)) return false;
   }
   address = PatternAddress(bytes);
   return true;
 }
 
-bool ReadPattern(std::int16_t handle, EditorPattern& pattern) {
-  if (!ReadZeroEndedText(handle, pattern.Description)) return false;
+bool ReadPattern(ByteReader& reader, EditorPattern& pattern) {
+  if (!reader.TakeZeroEndedText(pattern.Description)) return false;
   for (std::int32_t& address : pattern.Addresses) {
-    if (!ReadAddress(handle, address)) return false;
+    if (!ReadAddress(reader, address)) return false;
   }
   return true;
 }
 
 // The number of whole records that follow, 64 at most; more data is passed over.
-std::int16_t ReadPatterns(std::int16_t handle) {
+std::int16_t ReadPatterns(ByteReader& reader) {
   std::int16_t count = 0;
   for (EditorPattern& pattern : Patterns) {
-    if (!ReadPattern(handle, pattern)) break;
+    if (!ReadPattern(reader, pattern)) break;
     ++count;
   }
   return count;
@@ -100,13 +99,16 @@ void SavePatternFile(std::string_view path) {
   _lclose(handle);
 }
 
+PatternLoad LoadPatterns(const FileSource& file) {
+  ByteReader reader(file);
+  const bool valid = reader.TakeText(kMagic.size()) == kMagic;
+  PatternCount = valid ? ReadPatterns(reader) : std::int16_t{0};
+  return valid ? PatternLoad::Done : PatternLoad::WrongHeader;
+}
+
 PatternLoad LoadPatternFile(std::string_view path) {
   if (OpenFile(path, kOpenExist) < 0) return PatternLoad::NotFound;
-  const std::int16_t handle = OpenFile(path, kOpenRead);
-  const bool valid = ReadByteText(handle, kMagic.size()) == kMagic;
-  PatternCount = valid ? ReadPatterns(handle) : std::int16_t{0};
-  _lclose(handle);
-  return valid ? PatternLoad::Done : PatternLoad::WrongHeader;
+  return LoadPatterns(FileSource::AtPath(std::string(path)));
 }
 
 }  // namespace brolk

@@ -8,6 +8,7 @@
 #include <string_view>
 
 #include "runtime/bounded.h"
+#include "runtime/byte_reader.h"
 
 // Snapshots of the 256 slot addresses of the Editor under a description, and their .eap files.
 namespace brolk {
@@ -55,9 +56,12 @@ void SavePatternFile(std::string_view path);
 
 enum class PatternLoad { Done, NotFound, WrongHeader };
 
-// Reads a file over the patterns. A file that is not there changes nothing; one with another magic empties
-// the list. Records are read up to the end of the file or to 64; one that the file's end cuts is not counted,
-// and what stands in the table for it is half overwritten.
+// Reads a file over the patterns. A file with another magic empties the list. Records are read up to the end
+// of the file or to 64; one that the file's end cuts is not counted, and what stands in the table for it is
+// half overwritten.
+[[nodiscard]] PatternLoad LoadPatterns(const FileSource& file);
+
+// The same for a path (UTF-8); a file that is not there changes nothing.
 [[nodiscard]] PatternLoad LoadPatternFile(std::string_view path);
 
 }  // namespace brolk

@@ -3,7 +3,6 @@
 
 #include <algorithm>
 
-#include "runtime/byte_reads.h"
 #include "runtime/files.h"
 
 namespace brolk {
@@ -43,15 +42,6 @@ std::string HeaderBytes() {
     for (int k = 0; k < field.sizeBytes; ++k) bytes += static_cast<char>((field.value >> (8 * k)) & 0xFF);
   }
   return bytes;
-}
-
-BmpImport ReadPicture(std::int16_t handle) {
-  if (OpenFileLength(handle) != kBmpFileBytes) return BmpImport::WrongSize;
-  if (ReadByteText(handle, BmpHeadBytes.size()) != BmpHeadBytes) return BmpImport::WrongHeader;
-  _llseek(handle, kBmpHeadBytes, kFromStart);
-  DecodeBmp(ReadByteText(handle, kBmpColorBytes + kBmpPixelBytes), Palette, EditSlots);
-  for (int slot = 0; slot <= 255; ++slot) RefreshSlotSurface(static_cast<std::uint8_t>(slot));
-  return BmpImport::Done;
 }
 
 }  // namespace
@@ -105,11 +95,14 @@ void DecodeBmp(std::string_view body, PaletteTable& palette, SlotTable& slots) {
   }
 }
 
-BmpImport ImportBmpFile(std::string_view path) {
-  const std::int16_t handle = OpenFile(path, kOpenRead);
-  const BmpImport result = ReadPicture(handle);
-  _lclose(handle);
-  return result;
+BmpImport ImportBmpFile(const FileSource& file) {
+  ByteReader reader(file);
+  if (!reader.IsOpen() || reader.Length() != kBmpFileBytes) return BmpImport::WrongSize;
+  if (reader.TakeText(BmpHeadBytes.size()) != BmpHeadBytes) return BmpImport::WrongHeader;
+  reader.Seek(kBmpHeadBytes);
+  DecodeBmp(reader.TakeText(kBmpColorBytes + kBmpPixelBytes), Palette, EditSlots);
+  for (int slot = 0; slot <= 255; ++slot) RefreshSlotSurface(static_cast<std::uint8_t>(slot));
+  return BmpImport::Done;
 }
 
 void ExportBmpFile(std::string_view path) {

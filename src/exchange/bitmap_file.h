@@ -7,6 +7,7 @@
 
 #include "editor/slots.h"
 #include "palette/palette_model.h"
+#include "runtime/byte_reader.h"
 
 // The Editor's 16 by 16 slots as one picture: 128 by 128 pixels, an uncompressed Windows bitmap of 8 bits.
 namespace brolk {
@@ -49,9 +50,9 @@ void DecodeBmp(std::string_view body, PaletteTable& palette, SlotTable& slots);
 
 enum class BmpImport { Done, WrongSize, WrongHeader };
 
-// Reads a picture (path in UTF-8) into Palette and EditSlots and rebuilds the slot surfaces. A name that is
-// not there has the wrong size. A refused file changes nothing.
-[[nodiscard]] BmpImport ImportBmpFile(std::string_view path);
+// Reads a picture into Palette and EditSlots and rebuilds the slot surfaces. A file that is not there has the
+// wrong size. A refused file changes nothing.
+[[nodiscard]] BmpImport ImportBmpFile(const FileSource& file);
 
 // Writes Palette and EditSlots as a picture over whatever stands there. A file that cannot be created or
 // written goes unnoticed.

@@ -5,11 +5,9 @@
 #include <string>
 
 #include "filetools/favorites.h"
-#include "runtime/byte_reads.h"
 #include "runtime/fault.h"
 #include "runtime/files.h"
 #include "runtime/numbers.h"
-#include "runtime/text_stream.h"
 
 namespace brolk {
 namespace {
@@ -35,8 +33,22 @@ void ReadTextRecord(std::string_view line, FavoriteRecord& favorite) {
   favorite.Name = separator + 2 <= line.size() ? line.substr(separator + 2) : std::string_view();
 }
 
-FavoritesLoad LoadText(std::string_view path) {
-  TextReader reader(path);
+// The address is stored once all four bytes are there; with the top bit set it is negative.
+bool ReadBinaryRecord(ByteReader& reader, FavoriteRecord& favorite) {
+  if (!reader.TakeZeroEndedText(favorite.Name)) return false;
+  std::int64_t address = 0;
+  for (int k = 0; k < 4; ++k) {
+    std::uint8_t byte = 0;
+    if (!reader.Next(byte)) return false;
+    address += std::int64_t{byte} << (8 * k);
+  }
+  favorite.Address = Wrap32(address);
+  return true;
+}
+
+}  // namespace
+
+FavoritesLoad LoadTextFavorites(TextReader& reader) {
   if (reader.ReadLine() != kTextHeader) return FavoritesLoad::WrongTextHeader;
   reader.SkipLine();
   const std::int16_t count = CountOf(reader.ReadLine());
@@ -46,34 +58,20 @@ FavoritesLoad LoadText(std::string_view path) {
   return FavoritesLoad::Done;
 }
 
-// The address is stored once all four bytes are there; with the top bit set it is negative.
-bool ReadBinaryRecord(std::int16_t handle, FavoriteRecord& favorite) {
-  if (!ReadZeroEndedText(handle, favorite.Name)) return false;
-  std::int64_t address = 0;
-  for (int k = 0; k < 4; ++k) {
-    std::uint8_t byte = 0;
-    if (!ReadByte(handle, byte)) return false;
-    address += std::int64_t{byte} << (8 * k);
-  }
-  favorite.Address = Wrap32(address);
-  return true;
-}
-
-FavoritesLoad LoadBinary(std::string_view path) {
-  const std::int16_t handle = OpenFile(path, kOpenRead);
-  const bool valid = ReadByteText(handle, kBinaryMagic.size()) == kBinaryMagic;
+FavoritesLoad LoadBinaryFavorites(const FileSource& file) {
+  ByteReader reader(file);
+  const bool valid = reader.TakeText(kBinaryMagic.size()) == kBinaryMagic;
   std::int16_t count = 0;
-  while (valid && count < kFavoriteLimit && ReadBinaryRecord(handle, Favorites[count])) ++count;
+  while (valid && count < kFavoriteLimit && ReadBinaryRecord(reader, Favorites[count])) ++count;
   FavoriteCount = count;
-  _lclose(handle);
   return valid ? FavoritesLoad::Done : FavoritesLoad::WrongBinaryHeader;
 }
 
-}  // namespace
-
 FavoritesLoad LoadFavoritesFile(std::string_view path) {
   if (OpenFile(path, kOpenExist) < 0) return FavoritesLoad::NotFound;
-  return path.ends_with(".favorites") ? LoadText(path) : LoadBinary(path);
+  if (!path.ends_with(".favorites")) return LoadBinaryFavorites(FileSource::AtPath(std::string(path)));
+  TextReader reader(path);
+  return LoadTextFavorites(reader);
 }
 
 void SaveFavoritesFile(std::string_view path) {

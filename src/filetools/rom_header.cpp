@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "filetools/rom_header.h"
 
-#include "runtime/byte_reads.h"
 #include "runtime/files.h"
 #include "runtime/numbers.h"
 
@@ -19,7 +18,7 @@ class ByteSource {
   explicit ByteSource(std::int16_t handle) : handle_(handle) {}
 
   std::uint8_t Next() {
-    ReadByte(handle_, byte_);
+    _hread(handle_, std::span(&byte_, 1));
     return byte_;
   }
 

@@ -7,7 +7,7 @@
 #include <variant>
 #include <vector>
 
-#include "palette/palette_files_source.h"
+#include "runtime/byte_reader.h"
 #include "runtime/surface.h"
 
 namespace brolk {

@@ -6,7 +6,7 @@
 #include <cstdint>
 #include <vector>
 
-#include "palette/palette_files_source.h"
+#include "runtime/byte_reader.h"
 
 namespace brolk {
 

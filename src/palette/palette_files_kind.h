@@ -8,7 +8,7 @@
 #include <string>
 #include <string_view>
 
-#include "palette/palette_files_source.h"
+#include "runtime/byte_reader.h"
 #include "runtime/surface.h"
 
 namespace brolk {

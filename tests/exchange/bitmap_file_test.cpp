@@ -54,6 +54,8 @@ class BitmapFile : public testing::Test {
     }
   }
 
+  static BmpImport Import(const std::string& path) { return ImportBmpFile(FileSource::AtPath(path)); }
+
   // A valid file with these pixels: file byte i is i mod 256.
   static std::string CountingPicture() {
     std::string bytes = EncodeBmp(Palette, EditSlots);
@@ -186,7 +188,7 @@ TEST_F(BitmapFile, ExportThenImportGivesTheSamePixelsAndColors) {
   ExportBmpFile(path);
   Palette.fill(0);
   ClearAllSlots();
-  ASSERT_EQ(ImportBmpFile(path), BmpImport::Done);
+  ASSERT_EQ(Import(path), BmpImport::Done);
   EXPECT_EQ(Palette, colors);
   for (int slot = 0; slot <= 255; ++slot) {
     EXPECT_EQ(EditSlots[slot].Pixels, before[slot].Pixels) << slot;
@@ -197,14 +199,14 @@ TEST_F(BitmapFile, ExportThenImportGivesTheSamePixelsAndColors) {
 TEST_F(BitmapFile, ImportRebuildsTheSurfacesInTheImportedColors) {
   std::string bytes = CountingPicture();
   bytes.replace(54 + 5 * 4, 4, Bytes("\x11\x22\x33\x44"));
-  ASSERT_EQ(ImportBmpFile(test::WriteRuleFile("colors.bmp", bytes)), BmpImport::Done);
+  ASSERT_EQ(Import(test::WriteRuleFile("colors.bmp", bytes)), BmpImport::Done);
   EXPECT_EQ(Palette[5], 0x112233) << "the fourth byte plays no part";
   EXPECT_EQ(EditSlots[240].Pixels[56 + 5], 5);
   EXPECT_EQ(EditSlots[240].SlotSurface.GetPixel(5, 7), 0x112233);
 }
 
 TEST_F(BitmapFile, AllPixelValuesSurvive) {
-  ASSERT_EQ(ImportBmpFile(test::WriteRuleFile("counting.bmp", CountingPicture())), BmpImport::Done);
+  ASSERT_EQ(Import(test::WriteRuleFile("counting.bmp", CountingPicture())), BmpImport::Done);
   EXPECT_EQ(EditSlots[15 * 16 + 15].Pixels[55], 255) << "second row of the file, last column";
   EXPECT_EQ(EncodeBmp(Palette, EditSlots), CountingPicture());
 }
@@ -214,7 +216,7 @@ TEST_F(BitmapFile, SlotsOfZerosBecomeNonCopied) {
   std::string bytes = EncodeBmp(Palette, EditSlots);
   for (std::size_t i = 1078; i < bytes.size(); ++i) bytes[i] = 0;
   bytes[1078] = 1;  // one pixel of slot 240
-  ASSERT_EQ(ImportBmpFile(test::WriteRuleFile("zeros.bmp", bytes)), BmpImport::Done);
+  ASSERT_EQ(Import(test::WriteRuleFile("zeros.bmp", bytes)), BmpImport::Done);
   for (int slot = 0; slot <= 255; ++slot)
     EXPECT_EQ(EditSlots[slot].Address, slot == 240 ? kUnaddressed : kNonCopied) << slot;
 }
@@ -222,7 +224,7 @@ TEST_F(BitmapFile, SlotsOfZerosBecomeNonCopied) {
 TEST_F(BitmapFile, UnusualColorTableImportsAsItStands) {
   std::string bytes = CountingPicture();
   for (std::size_t i = 0; i < 1024; ++i) bytes[54 + i] = static_cast<char>(0xFF - i);
-  ASSERT_EQ(ImportBmpFile(test::WriteRuleFile("unusual.bmp", bytes)), BmpImport::Done);
+  ASSERT_EQ(Import(test::WriteRuleFile("unusual.bmp", bytes)), BmpImport::Done);
   EXPECT_EQ(Palette[0], 0xFFFEFD);
   EXPECT_EQ(Palette[1], 0xFBFAF9);
   EXPECT_EQ(Palette[255], 0x030201);
@@ -231,7 +233,7 @@ TEST_F(BitmapFile, UnusualColorTableImportsAsItStands) {
 TEST_F(BitmapFile, BytesFrom32To53AreNotLookedAt) {
   std::string bytes = CountingPicture();
   for (std::size_t i = 32; i < 54; ++i) bytes[i] = '\xA5';
-  EXPECT_EQ(ImportBmpFile(test::WriteRuleFile("loose.bmp", bytes)), BmpImport::Done);
+  EXPECT_EQ(Import(test::WriteRuleFile("loose.bmp", bytes)), BmpImport::Done);
 }
 
 TEST_F(BitmapFile, EachOfTheFirst32BytesMustFit) {
@@ -239,7 +241,7 @@ TEST_F(BitmapFile, EachOfTheFirst32BytesMustFit) {
   for (std::size_t i = 0; i < 32; ++i) {
     std::string bytes = CountingPicture();
     bytes[i] = static_cast<char>(bytes[i] ^ 0x40);
-    EXPECT_EQ(ImportBmpFile(test::WriteRuleFile("header.bmp", bytes)), BmpImport::WrongHeader) << i;
+    EXPECT_EQ(Import(test::WriteRuleFile("header.bmp", bytes)), BmpImport::WrongHeader) << i;
   }
   EXPECT_EQ(EditSlots[240].Pixels, before[240].Pixels) << "a refused file changes nothing";
 }
@@ -247,27 +249,27 @@ TEST_F(BitmapFile, EachOfTheFirst32BytesMustFit) {
 TEST_F(BitmapFile, NegativeHeightFailsTheHeader) {
   std::string bytes = CountingPicture();
   bytes.replace(22, 4, Bytes("\x80\xFF\xFF\xFF"));
-  EXPECT_EQ(ImportBmpFile(test::WriteRuleFile("topdown.bmp", bytes)), BmpImport::WrongHeader);
+  EXPECT_EQ(Import(test::WriteRuleFile("topdown.bmp", bytes)), BmpImport::WrongHeader);
 }
 
 TEST_F(BitmapFile, SizeTestComesFirst) {
   const std::string bytes = CountingPicture();
-  EXPECT_EQ(ImportBmpFile(test::WriteRuleFile("longer.bmp", bytes + "x")), BmpImport::WrongSize);
-  EXPECT_EQ(ImportBmpFile(test::WriteRuleFile("wrong.bmp", std::string(17463, 'x'))), BmpImport::WrongSize);
-  EXPECT_EQ(ImportBmpFile(test::WriteRuleFile("right.bmp", std::string(17462, 'x'))), BmpImport::WrongHeader);
+  EXPECT_EQ(Import(test::WriteRuleFile("longer.bmp", bytes + "x")), BmpImport::WrongSize);
+  EXPECT_EQ(Import(test::WriteRuleFile("wrong.bmp", std::string(17463, 'x'))), BmpImport::WrongSize);
+  EXPECT_EQ(Import(test::WriteRuleFile("right.bmp", std::string(17462, 'x'))), BmpImport::WrongHeader);
 }
 
 TEST_F(BitmapFile, EveryShorterFileHasTheWrongSize) {
   const std::string bytes = CountingPicture();
   for (const std::size_t length : {0U, 1U, 31U, 32U, 53U, 54U, 1077U, 1078U, 17461U})
-    EXPECT_EQ(ImportBmpFile(test::WriteRuleFile("short.bmp", bytes.substr(0, length))), BmpImport::WrongSize);
-  EXPECT_EQ(ImportBmpFile(test::RulePath("not-there.bmp")), BmpImport::WrongSize);
+    EXPECT_EQ(Import(test::WriteRuleFile("short.bmp", bytes.substr(0, length))), BmpImport::WrongSize);
+  EXPECT_EQ(Import(test::RulePath("not-there.bmp")), BmpImport::WrongSize);
 }
 
 TEST_F(BitmapFile, ImportHasAHandleOfItsOwn) {
   hFile = OpenFile(test::WriteRuleFile("rom.bin", "rom"), kOpenRead);
   const std::int16_t before = hFile;
-  ASSERT_EQ(ImportBmpFile(test::WriteRuleFile("own.bmp", CountingPicture())), BmpImport::Done);
+  ASSERT_EQ(Import(test::WriteRuleFile("own.bmp", CountingPicture())), BmpImport::Done);
   EXPECT_EQ(hFile, before);
   EXPECT_EQ(OpenFileLength(hFile), 3);
   _lclose(hFile);
@@ -276,7 +278,7 @@ TEST_F(BitmapFile, ImportHasAHandleOfItsOwn) {
 TEST_F(BitmapFile, ImportClosesItsFile) {
   const std::int16_t before = OpenFile(test::WriteRuleFile("count.bin", ""), kOpenRead);
   const std::string path = test::WriteRuleFile("closed.bmp", CountingPicture());
-  ASSERT_EQ(ImportBmpFile(path), BmpImport::Done);
+  ASSERT_EQ(Import(path), BmpImport::Done);
   const auto taken = static_cast<std::int16_t>(before + 1);
   EXPECT_EQ(_lclose(taken), -1) << "handle numbers are given out in order";
   _lclose(before);

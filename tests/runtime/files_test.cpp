@@ -8,7 +8,6 @@
 #include <filesystem>
 #include <fstream>
 
-#include "runtime/byte_reads.h"
 #include "runtime/fault.h"
 #include "support/temp_file.h"
 
@@ -227,30 +226,6 @@ TEST(LastSeparator, IsTheSlash) {
 #ifndef _WIN32
   EXPECT_EQ(LastSeparator("/a\\b"), 0U);
 #endif
-}
-
-TEST(ByteReads, KeepTheByteThatIsNotReplaced) {
-  const TempFile file({5});
-  std::uint8_t byte = 0;
-  EXPECT_TRUE(ReadByte(file.Handle(), byte));
-  EXPECT_EQ(byte, 5);
-  EXPECT_FALSE(ReadByte(file.Handle(), byte));
-  EXPECT_EQ(byte, 5);
-}
-
-TEST(ByteReads, RepeatTheLastByteInAText) {
-  const TempFile file({'A', 'B'});
-  EXPECT_EQ(ReadByteText(file.Handle(), 4), "ABBB");
-  EXPECT_EQ(ReadByteText(file.Handle(), 2), std::string(2, '\0'));
-}
-
-TEST(ByteReads, StopAtAZeroByte) {
-  const TempFile file({'A', 'B', 0, 'C'});
-  std::string text;
-  EXPECT_TRUE(ReadZeroEndedText(file.Handle(), text));
-  EXPECT_EQ(text, "AB");
-  EXPECT_FALSE(ReadZeroEndedText(file.Handle(), text));
-  EXPECT_EQ(text, "C");
 }
 
 }  // namespace

@@ -37,7 +37,7 @@ bool MayOverwrite(const std::string& path) {
 void ImportBmp() {
   const std::string path = AskPath(&CommonDialog::ShowOpen);
   if (path.empty()) return;
-  switch (ImportBmpFile(path)) {
+  switch (ImportBmpFile(FileSource::AtPath(path))) {
     case BmpImport::WrongSize:
       Refuse(QStringLiteral("file size"));
       return;

@@ -1,23 +1,28 @@
 // SPDX-License-Identifier: MIT
-#include "palette/palette_files_source.h"
+#include "runtime/byte_reader.h"
 
+#include <gtest/gtest.h>
+
+#include <optional>
 #include <random>
 
-#include "palette/palette_files_support.h"
+#include "support/temp_file.h"
 
 namespace brolk::test {
 namespace {
 
 // Reading by bytes, from the disk and from memory alike.
-class ByteReading : public PaletteFilesTest, public ::testing::WithParamInterface<bool> {
+class ByteReading : public ::testing::TestWithParam<bool> {
  protected:
   FileSource Source(const std::string& text) {
-    if (!GetParam()) return FileSource::AtPath(MakeFile("bytes", text));
     bytes_.assign(text.begin(), text.end());
-    return FileSource::InMemory(bytes_);
+    if (GetParam()) return FileSource::InMemory(bytes_);
+    file_.emplace(bytes_);
+    return FileSource::AtPath(file_->Path());
   }
 
  private:
+  std::optional<TempFile> file_;
   std::vector<std::uint8_t> bytes_;
 };
 std::string PlaceName(const ::testing::TestParamInfo<bool>& place) {
@@ -104,10 +109,32 @@ TEST_P(ByteReading, SkipsFurtherThanAnyFileIsLong) {
   EXPECT_EQ(byte, 7);
 }
 
-using ByteReaderFiles = PaletteFilesTest;
+TEST_P(ByteReading, TakesTextAndRepeatsTheLastByteAtTheEnd) {
+  const FileSource source = Source("abc");
+  ByteReader reader(source);
+  EXPECT_EQ(reader.TakeText(0), "");
+  EXPECT_EQ(reader.TakeText(2), "ab");
+  EXPECT_EQ(reader.TakeText(3), "ccc");
+  EXPECT_EQ(reader.TakeText(2), std::string(2, '\0')) << "each text starts with a byte of 0";
+}
 
-TEST_F(ByteReaderFiles, AFileThatCannotBeOpenedDeliversNothing) {
-  ByteReader reader(FileSource::AtPath(PathOf("missing")));
+TEST_P(ByteReading, TakesTextUpToItsZeroByte) {
+  const FileSource source = Source(std::string("one\0\0rest", 9));
+  ByteReader reader(source);
+  std::string text = "old";
+  EXPECT_TRUE(reader.TakeZeroEndedText(text));
+  EXPECT_EQ(text, "one");
+  EXPECT_TRUE(reader.TakeZeroEndedText(text));
+  EXPECT_EQ(text, "");
+  EXPECT_FALSE(reader.TakeZeroEndedText(text)) << "no zero byte comes";
+  EXPECT_EQ(text, "rest");
+  EXPECT_FALSE(reader.TakeZeroEndedText(text));
+  EXPECT_EQ(text, "");
+}
+
+TEST(ByteReaderFiles, AFileThatCannotBeOpenedDeliversNothing) {
+  const TempFolder folder;
+  ByteReader reader(FileSource::AtPath(folder.Path("missing")));
   EXPECT_FALSE(reader.IsOpen());
   std::uint8_t byte = 7;
   EXPECT_FALSE(reader.Next(byte));
@@ -119,16 +146,18 @@ TEST_F(ByteReaderFiles, AFileThatCannotBeOpenedDeliversNothing) {
   EXPECT_FALSE(reader.Next(byte));
 }
 
-TEST_F(ByteReaderFiles, ClosesUnlessAbandoned) {
-  const FileSource source = FileSource::AtPath(MakeFile("bytes", "abc"));
-  const std::size_t open = CountOpenFiles();
+// Handle numbers are given out one after the other, so the reader's is the next.
+TEST(ByteReaderFiles, ClosesUnlessAbandoned) {
+  const TempFile file({1, 2, 3});
+  const FileSource source = FileSource::AtPath(file.Path());
+  const std::int16_t before = file.Handle();
   { const ByteReader reader(source); }
-  EXPECT_EQ(CountOpenFiles(), open);
+  EXPECT_EQ(_lclose(static_cast<std::int16_t>(before + 1)), -1);
   {
     ByteReader reader(source);
     reader.Abandon();
   }
-  EXPECT_EQ(CountOpenFiles(), open + 1);
+  EXPECT_EQ(_lclose(static_cast<std::int16_t>(before + 2)), 0) << "it was left open";
 }
 
 }  // namespace

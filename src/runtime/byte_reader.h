@@ -44,6 +44,14 @@ class ByteReader final {
   // alone.
   std::size_t Read(std::span<std::uint8_t> target);
 
+  // The next `count` bytes, taken through one variable that starts at 0: past the end the last one counts
+  // again.
+  [[nodiscard]] std::string TakeText(std::size_t count);
+
+  // Takes bytes up to a zero byte, which is not part of the text. False when the file ends before it; what
+  // came stands in `text` all the same.
+  bool TakeZeroEndedText(std::string& text);
+
   // Goes to `offset` bytes from the start, 0 or more. Past the end nothing is delivered.
   void Seek(std::int32_t offset);
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "palette/palette_files_source.h"
+#include "runtime/byte_reader.h"
 
 #include <algorithm>
 #include <limits>
@@ -58,6 +58,25 @@ std::size_t ByteReader::Read(std::span<std::uint8_t> target) {
     done += count;
   }
   return done;
+}
+
+std::string ByteReader::TakeText(std::size_t count) {
+  std::string text;
+  std::uint8_t byte = 0;
+  for (std::size_t k = 0; k < count; ++k) {
+    Next(byte);
+    text += static_cast<char>(byte);
+  }
+  return text;
+}
+
+bool ByteReader::TakeZeroEndedText(std::string& text) {
+  text.clear();
+  for (std::uint8_t byte = 0; Next(byte);) {
+    if (byte == 0) return true;
+    text += static_cast<char>(byte);
+  }
+  return false;
 }
 
 void ByteReader::Seek(std::int32_t offset) {
