@@ -1,18 +1,18 @@
 // SPDX-License-Identifier: MIT
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
-#include <signal.h>
-#include <sys/stat.h>
-#include <sys/wait.h>
-#include <unistd.h>
 
 #include <QCoreApplication>
+#include <QTest>
+#include <filesystem>
+#include <fstream>
 
 #include "browser/windows/browser_control.h"
 #include "filetools/windows/file_info.h"
 #include "forms/windows.h"
 #include "runtime/files.h"
 #include "shell/windows/main_form.h"
+#include "support/endless_child.h"
 #include "support/program.h"
 #include "support/shown_texts.h"
 #include "tile/shared.h"
@@ -106,7 +106,7 @@ TEST_F(FileInfoWindow, ShowsTheAttributes) {
   const std::string plain = Open("plain.gb", Rom(400));
   using testing::ElementsAre;
   EXPECT_THAT(AttributePictures(), ElementsAre("no-mark", "no-mark", "no-mark", "no-mark"));
-  chmod(plain.c_str(), 0444);
+  std::filesystem::permissions(plain, std::filesystem::perms::owner_read);
   ClickControl(The<BrowserControl>().fbnFileInfo);
   EXPECT_THAT(AttributePictures(), ElementsAre("yes-mark", "no-mark", "no-mark", "no-mark"));
   EXPECT_EQ(tool.imgReadOnly.accessibleName(), "Read only: yes");
@@ -198,7 +198,7 @@ TEST_F(FileInfoWindow, RepairWithNoFileTellsTwiceAndFaults) {
 
 TEST_F(FileInfoWindow, ReportOnAFileThatIsGoneIsTheFileFault) {
   const std::string path = Open("gone.gb", Rom(400));
-  unlink(path.c_str());
+  std::filesystem::remove(path);
   EXPECT_EQ(test::FaultOf([] { ClickControl(The<MainForm>().fbnFileInfo); }), FaultKind::FileNotFound);
 }
 
@@ -211,29 +211,23 @@ TEST_F(FileInfoWindow, RepairOfATinyFileGrowsIt) {
   EXPECT_EQ(tool.lblFileChecksum.Text(), QString::number(sum, 16).toUpper());
 }
 
-// How the child process of the endless repair ends: the label tells that the file was read to its end and the
-// loop went on.
-constexpr int kStillCounting = 42;
-
-void EndChild(int) {
-  const bool through =
-      The<FileInfo>().lblDoChecksum.Text() == QLatin1String("Calculating, please wait... (100%)");
-  _exit(through ? kStillCounting : 1);
-}
-
 TEST_F(FileInfoWindow, RepairOf32767BytesNeverEnds) {
-  const std::string path = Open("endless.gb", Rom(32767));
-  tool.Hide();
-  const pid_t child = fork();
-  if (child == 0) {
-    signal(SIGALRM, EndChild);
-    alarm(4);
-    tool.fbnDoChecksum.click();
-    _exit(0);
+  if (test::EndlessChild::Running()) {
+    test::OpenRomFile(test::EndlessChild::Path());
+    ClickControl(The<MainForm>().fbnFileInfo);
+    test::ShownTexts shown(tool.lblDoChecksum);
+    shown.Heard = [](const std::string& text) {
+      if (text.ends_with("(100%)")) std::ofstream(test::EndlessChild::Path() + ".through") << text;
+    };
+    ClickControl(tool.fbnDoChecksum);
+    FAIL() << "the repair came back";
   }
-  int status = 0;
-  ASSERT_EQ(waitpid(child, &status, 0), child);
-  EXPECT_TRUE(WIFEXITED(status) && WEXITSTATUS(status) == kStillCounting) << status;
+  const std::string path = test::MakeFile("endless.gb", Rom(32767));
+  test::EndlessChild child(path);
+  ASSERT_TRUE(child.Until([&] { return std::filesystem::exists(path + ".through"); }))
+      << "it went through the whole file";
+  QTest::qWait(500);
+  EXPECT_TRUE(child.StillRuns()) << "and goes on";
   EXPECT_TRUE(test::FileText(path) == Rom(32767)) << "nothing was written";
 }
 

@@ -3,6 +3,7 @@
 
 #include <QEvent>
 #include <QObject>
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -16,11 +17,15 @@ class ShownTexts final : public QObject {
   explicit ShownTexts(Label& label) : label_(label) { label.installEventFilter(this); }
 
   std::vector<std::string> texts;
+  // Hears each of them when it comes.
+  std::function<void(const std::string&)> Heard;
 
  protected:
   bool eventFilter(QObject*, QEvent* event) override {
     const std::string text = label_.Text().toStdString();
-    if (event->type() == QEvent::Paint && (texts.empty() || texts.back() != text)) texts.push_back(text);
+    if (event->type() != QEvent::Paint || (!texts.empty() && texts.back() == text)) return false;
+    texts.push_back(text);
+    if (Heard) Heard(text);
     return false;
   }
 
