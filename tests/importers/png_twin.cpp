@@ -85,64 +85,66 @@ PngTwin Faulted(PngTwin twin, FaultKind fault) {
   return twin;
 }
 
+// Takes what a chunk of the kinds 0 and 3 to 6 tells; false makes the file invalid.
+bool TakeChunk(PngTwin& twin, const Endless& bytes, const std::set<int>& seen, int kind, std::int64_t data,
+               std::int64_t length) {
+  if (kind == 0) {
+    if (!seen.empty()) return false;
+    twin.width = bytes.Signed(data);
+    twin.height = bytes.Signed(data + 4);
+    twin.bitDepth = static_cast<int>(bytes.Byte(data + 8));
+    twin.colorType = static_cast<int>(bytes.Byte(data + 9));
+    twin.interlace = static_cast<int>(bytes.Byte(data + 12));
+    return HeaderFits(twin, bytes.Byte(data + 10), bytes.Byte(data + 11));
+  }
+  if (seen.count(kind) > 0) return false;
+  if (kind != 6 && seen.count(5) + seen.count(2) > 0) return false;
+  if (kind == 3) twin.gamma = static_cast<double>(bytes.Long(data)) / 100000.0;
+  if (kind == 5) {
+    if (static_cast<double>(length / 3) > std::pow(2.0, twin.bitDepth)) return false;
+    if (twin.colorType != 2 && twin.colorType != 3 && twin.colorType != 6) return false;
+    for (std::int64_t at = data; at < data + length; at += 3) {
+      twin.palette.push_back(
+          static_cast<std::int32_t>(bytes.Byte(at) + bytes.Byte(at + 1) * 256 + bytes.Byte(at + 2) * 65536));
+    }
+  }
+  if (kind == 6) {
+    const std::int64_t background = BackgroundOf(twin, bytes, data, length);
+    if (background == -1) return false;
+    twin.background = static_cast<std::int32_t>(background);
+  }
+  return true;
+}
+
 }  // namespace
 
-// One long ladder on purpose: it can be read against the rules line by line.
 PngTwin ReadPngNaively(const std::string& file) {
   const Endless bytes(file);
   PngTwin twin;
   std::set<int> seen;
   if (bytes.Text(0, 8) != "\x89PNG\r\n\x1A\n") return Ended(twin, 2);
   std::int64_t position = 8;
-  for (;;) {
-    if (position > bytes.Length()) return Ended(twin, 2);
+  while (position <= bytes.Length()) {
     const std::int64_t length = bytes.Signed(position);
     if (length < 0) return Ended(twin, 2);
     const std::int64_t data = position + 8;
     const int kind = KindOf(bytes.Text(position + 4, 4), length);
     position = data + length + 4;
     if (seen.count(0) == 0 && kind != 0) return Ended(twin, 2);
-    if (kind == 0) {
-      if (!seen.empty()) return Ended(twin, 2);
-      twin.width = bytes.Signed(data);
-      twin.height = bytes.Signed(data + 4);
-      twin.bitDepth = static_cast<int>(bytes.Byte(data + 8));
-      twin.colorType = static_cast<int>(bytes.Byte(data + 9));
-      twin.interlace = static_cast<int>(bytes.Byte(data + 12));
-      if (!HeaderFits(twin, bytes.Byte(data + 10), bytes.Byte(data + 11))) return Ended(twin, 2);
-    } else if (kind == 1) {
-      return Ended(twin, position == bytes.Length() ? 0 : 2);
-    } else if (kind == 2) {
+    if (kind == 1) return Ended(twin, position == bytes.Length() ? 0 : 2);
+    if (kind == 7) return Ended(twin, 2);
+    if (kind == 8) continue;
+    if (kind == 9) return Ended(twin, 3);
+    if (kind == 2) {
       if (length < 7) return Faulted(twin, FaultKind::SubscriptOutOfRange);
       if (bytes.Byte(data) % 16 != 8 || bytes.Byte(data) / 16 > 7) return Ended(twin, 2);
-    } else if (kind == 3) {
-      if (seen.count(3) + seen.count(5) + seen.count(2) > 0) return Ended(twin, 2);
-      twin.gamma = static_cast<double>(bytes.Long(data)) / 100000.0;
-    } else if (kind == 4) {
-      if (seen.count(4) + seen.count(5) + seen.count(2) > 0) return Ended(twin, 2);
-    } else if (kind == 5) {
-      if (seen.count(5) + seen.count(2) > 0) return Ended(twin, 2);
-      if (static_cast<double>(length / 3) > std::pow(2.0, twin.bitDepth)) return Ended(twin, 2);
-      if (twin.colorType != 2 && twin.colorType != 3 && twin.colorType != 6) return Ended(twin, 2);
-      for (std::int64_t entry = 0; entry < length / 3; ++entry) {
-        const std::int64_t at = data + 3 * entry;
-        twin.palette.push_back(static_cast<std::int32_t>(bytes.Byte(at) + bytes.Byte(at + 1) * 256 +
-                                                         bytes.Byte(at + 2) * 65536));
-      }
-    } else if (kind == 6) {
-      if (seen.count(6) > 0) return Ended(twin, 2);
-      const std::int64_t background = BackgroundOf(twin, bytes, data, length);
-      if (background == -1) return Ended(twin, 2);
-      twin.background = static_cast<std::int32_t>(background);
-    } else if (kind == 7) {
+      if (seen.count(2) > 0) return Faulted(twin, FaultKind::DuplicateKey);
+    } else if (!TakeChunk(twin, bytes, seen, kind, data, length)) {
       return Ended(twin, 2);
-    } else if (kind == 9) {
-      return Ended(twin, 3);
     }
-    if (kind == 8) continue;
-    if (seen.count(kind) > 0) return Faulted(twin, FaultKind::DuplicateKey);
     seen.insert(kind);
   }
+  return Ended(twin, 2);
 }
 
 }  // namespace brolk::test
