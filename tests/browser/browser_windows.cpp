@@ -9,6 +9,7 @@
 #include <QWheelEvent>
 #include <cstdlib>
 
+#include "editor/slots.h"
 #include "palette/palette_model.h"
 #include "tile/modes.h"
 #include "tile/shared.h"
@@ -178,6 +179,16 @@ Surface ShownPage() {
 
 std::vector<std::uint8_t> EntriesFrom(const std::vector<std::uint8_t>& file, std::int32_t address) {
   return {file.begin() + address, file.end()};
+}
+
+// The bytes that a slot holds.
+std::vector<std::uint8_t> PixelsOf(std::uint8_t slot) {
+  const auto pixels = EditSlots[slot].Pixels.All();
+  return {pixels.begin(), pixels.end()};
+}
+
+std::vector<std::uint8_t> TileAtAddress(const std::vector<std::uint8_t>& file, std::int32_t address) {
+  return {file.begin() + address, file.begin() + address + 64};
 }
 
 }  // namespace brolk::test

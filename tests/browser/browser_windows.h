@@ -82,4 +82,9 @@ struct BrowserWindows : ::testing::Test {
 [[nodiscard]] std::vector<std::uint8_t> EntriesFrom(const std::vector<std::uint8_t>& file,
                                                     std::int32_t address);
 
+// The 64 pixels of a slot, and those of the tile at an address where a pixel is a byte.
+[[nodiscard]] std::vector<std::uint8_t> PixelsOf(std::uint8_t slot);
+[[nodiscard]] std::vector<std::uint8_t> TileAtAddress(const std::vector<std::uint8_t>& file,
+                                                      std::int32_t address);
+
 }  // namespace brolk::test
