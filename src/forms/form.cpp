@@ -313,8 +313,10 @@ void Form::paintEvent(QPaintEvent* event) {
 bool Form::event(QEvent* event) {
   if (style_.kind == FormKind::Free && event->type() == QEvent::WindowActivate) BecomeActive();
   if (style_.kind == FormKind::Free && event->type() == QEvent::WindowDeactivate) Form_Deactivate();
+  const bool last = event->type() == QEvent::DeferredDelete;
   const bool handled = QWidget::event(event);
-  KeepOuterSize();
+  // The last event frees the window.
+  if (!last) KeepOuterSize();
   return handled;
 }
 

@@ -339,6 +339,11 @@ TEST_F(Frame, ControlOOnTheFrameItselfOpensAFile) {
   EXPECT_EQ(FileName, path);
 }
 
+TEST_F(Frame, HasTheKeyboardAfterTheStart) {
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&frame()));
+  EXPECT_EQ(QApplication::focusWidget(), &frame());
+}
+
 TEST_F(Frame, OtherKeysOnTheFrameDoNothing) {
   bool asked = false;
   CommonDialog::Answer = [&](CommonDialog&, CommonDialog::Kind) { asked = true; };

@@ -102,6 +102,8 @@ void MainForm::Form_Load() {
   mnuNonCopied.SetChecked(!The<EditorControl>().fbnNonCopied.Checked());
   // The frame shows once its load event is through; the child window shown last stays the active one.
   show();
+  // The keyboard starts on the frame itself, so that its keys work before any window has been clicked.
+  setFocus(Qt::OtherFocusReason);
 }
 
 void MainForm::Form_Resize() {
