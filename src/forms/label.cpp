@@ -8,6 +8,36 @@
 #include "forms/look.h"
 
 namespace brolk {
+namespace {
+
+constexpr QChar kBreakingPlace(0x200B);  // a blank without a width
+
+QString ShownMessage(QString text) {
+  text.replace(QLatin1String("\r\n"), QLatin1String("\n")).replace(QLatin1Char('\r'), QLatin1Char('\n'));
+  for (QChar& character : text) {
+    if (character.unicode() < 32 && character != QLatin1Char('\n') && character != QLatin1Char('\t'))
+      character = QLatin1Char(' ');
+  }
+  return text;
+}
+
+QString ShownLine(QString text) {
+  for (QChar& character : text) {
+    if (character.category() == QChar::Other_Control) character = QLatin1Char(' ');
+  }
+  return text;
+}
+
+QString ShownPath(const QString& text) {
+  QString shown;
+  for (const QChar character : text) {
+    shown += character;
+    if (character == QLatin1Char('/') || character == QLatin1Char('\\')) shown += kBreakingPlace;
+  }
+  return shown;
+}
+
+}  // namespace
 
 Label::Label(QWidget& parent, const char* name, const QString& text, const QString& toolTip)
     : QLabel(&parent), textColor_(kLabelColor) {
@@ -22,13 +52,19 @@ Label::Label(QWidget& parent, const char* name, const QString& text, const QStri
 
 void Label::SetText(const QString& text) {
   text_ = text;
-  QString shown = text;
-  shown.replace(QLatin1String("\r\n"), QLatin1String("\n")).replace(QLatin1Char('\r'), QLatin1Char('\n'));
-  for (QChar& character : shown) {
-    if (character.unicode() < 32 && character != QLatin1Char('\n') && character != QLatin1Char('\t'))
-      character = QLatin1Char(' ');
+  switch (content_) {
+    case Content::Message:
+      return setText(ShownMessage(text));
+    case Content::RawLine:
+      return setText(ShownLine(text));
+    case Content::Path:
+      return setText(ShownPath(text));
   }
-  setText(shown);
+}
+
+void Label::SetContent(Content content) {
+  content_ = content;
+  SetText(text_);
 }
 
 void Label::Refresh() {

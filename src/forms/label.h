@@ -22,6 +22,13 @@ class Label : public QLabel {
   void SetBold();
   void SetBorder();
   void SetWrap();
+  // How a text becomes what is on screen; the caption keeps it as it was given.
+  enum class Content {
+    Message,  // control characters show as blanks, but a line end breaks the line
+    RawLine,  // every control character shows as one blank
+    Path,     // a wrapped label may break it behind each separator
+  };
+  void SetContent(Content content);
   void SetCentered();
   void SetTextColor(ColorValue color);
   [[nodiscard]] ColorValue BackColor() const { return backColor_.value_or(0xFFFFFF); }
@@ -42,6 +49,7 @@ class Label : public QLabel {
   void ApplyColors();
 
   QString text_;
+  Content content_ = Content::Message;
   QString picture_;
   std::function<void()> click_;
   std::optional<ColorValue> backColor_;

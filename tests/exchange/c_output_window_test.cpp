@@ -160,6 +160,7 @@ TEST_F(COutPutWindow, TilesGoToTheChosenName) {
 TEST_F(COutPutWindow, ProgressIsShownTileByTile) {
   tool.cboSize.SetListIndex(1);
   tool.hsbRows.SetValue(2);
+  ASSERT_TRUE(QTest::qWaitForWindowExposed(&The<MainForm>()));
   QCoreApplication::processEvents();
   test::ShownTexts shown(tool.lblInfo);
   Convert(test::TestFolder() + "progress.h");

@@ -95,6 +95,14 @@ TEST_F(FileInfoWindow, ReportsNameSizeTitleAndChecksum) {
   EXPECT_EQ(tool.lblDoChecksum.Text(), kCaption);
 }
 
+TEST_F(FileInfoWindow, EveryControlCharacterOfTheTitleShowsAsABlank) {
+  std::string bytes = Rom(400);
+  bytes.replace(308, 15, "A\r\nB\tC\x7F\x01 DEFGHI");
+  Open("control.gb", bytes);
+  EXPECT_EQ(tool.lblRomName.Text(), "A\r\nB\tC\x7F\x01 DEFGHI");
+  EXPECT_EQ(tool.lblRomName.text(), "A  B C   DEFGHI");
+}
+
 TEST_F(FileInfoWindow, TitleIsReadAsWindows1252) {
   std::string bytes = Rom(400);
   bytes.replace(308, 2, "\x80\xFC");
@@ -159,7 +167,7 @@ TEST_F(FileInfoWindow, RepairAsksNothingAndReports) {
 
 TEST_F(FileInfoWindow, ProgressIsShown) {
   Open("progress.gb", Rom(800));
-  QCoreApplication::processEvents();
+  ASSERT_TRUE(QTest::qWaitForWindowExposed(&tool));
   test::ShownTexts shown(tool.lblDoChecksum);
   ClickControl(tool.fbnDoChecksum);
   QCoreApplication::processEvents();
@@ -215,6 +223,7 @@ TEST_F(FileInfoWindow, RepairOf32767BytesNeverEnds) {
   if (test::EndlessChild::Running()) {
     test::OpenRomFile(test::EndlessChild::Path());
     ClickControl(The<MainForm>().fbnFileInfo);
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&tool));
     test::ShownTexts shown(tool.lblDoChecksum);
     shown.Heard = [](const std::string& text) {
       if (text.ends_with("(100%)")) std::ofstream(test::EndlessChild::Path() + ".through") << text;

@@ -120,6 +120,30 @@ TEST(Labels, BreakALineAtALoneCarriageReturnAndBlankControlCharacters) {
   EXPECT_EQ(label.Text().size(), 5) << "the caption keeps what it was given";
 }
 
+TEST(Labels, ShowEveryControlCharacterOfARawLineAsOneBlank) {
+  QWidget window;
+  Label label(window, "lblTest", "old");
+  label.SetContent(Label::Content::RawLine);
+  const QString text = QStringLiteral("a\r\n\tb") + QChar(0) + QChar(0x7F) + QChar(0x81) + "c";
+  label.SetText(text);
+  EXPECT_EQ(label.text(), "a   b   c");
+  EXPECT_EQ(label.Text(), text);
+}
+
+TEST(Labels, MayBreakAPathBehindItsSeparators) {
+  QWidget window;
+  Label label(window, "lblTest", "/a/b\\c");
+  label.SetContent(Label::Content::Path);
+  EXPECT_EQ(label.Text(), "/a/b\\c");
+  EXPECT_EQ(label.text().remove(QChar(0x200B)), "/a/b\\c");
+  EXPECT_EQ(label.text().count(QChar(0x200B)), 3);
+  label.SetWrap();
+  label.SetText(QString(40, QLatin1Char('x')) + "/" + QString(40, QLatin1Char('y')));
+  EXPECT_GT(label.heightForWidth(label.fontMetrics().horizontalAdvance(QString(45, QLatin1Char('x')))),
+            label.fontMetrics().height() + 4)
+      << "two lines";
+}
+
 TEST(MenuItems, ShowAnAmpersandAsItIsAndKeepTheirMark) {
   QObject parent;
   MenuItem item(parent, "mnuTest", "Tom & Jerry.nes");

@@ -12,8 +12,8 @@ namespace brolk {
 namespace {
 
 constexpr double kClientWidth = 4800;
-constexpr double kClientHeight = 4335;
-constexpr double kImageTop = 2100;
+constexpr double kClientHeight = 4485;
+constexpr double kImageTop = 2250;
 constexpr int kImagePx = 32;
 
 }  // namespace
@@ -33,19 +33,19 @@ void FileInfo::LayOut() {
     double left, top, width, height;
   } rows[] = {
       {lblFile, 120, 75, 4560, 255},              //
-      {lblName, 120, 360, 4560, 480},             //
-      {lblLenghtInfo, 120, 930, 4560, 255},       //
-      {lblLength, 120, 1215, 4560, 255},          //
-      {lblAttributesInfo, 120, 1560, 4560, 255},  //
-      {lblAttributes, 120, 1845, 4560, 255},      //
-      {lblGameboy, 120, 2715, 4560, 255},         //
-      {lblID, 120, 3000, 2040, 255},              //
-      {lblRomName, 2220, 3000, 2460, 255},        //
-      {lblCrc, 120, 3285, 2040, 255},             //
-      {lblFileChecksum, 2220, 3285, 2460, 255},   //
-      {fbnDoChecksum, 120, 3705, 510, 510},       //
-      {lblDoChecksum, 720, 3705, 3330, 510},      //
-      {fbnClose, 4170, 3705, 510, 510},
+      {lblName, 120, 360, 4560, 660},             //
+      {lblLenghtInfo, 120, 1080, 4560, 255},      //
+      {lblLength, 120, 1365, 4560, 255},          //
+      {lblAttributesInfo, 120, 1710, 4560, 255},  //
+      {lblAttributes, 120, 1995, 4560, 255},      //
+      {lblGameboy, 120, 2865, 4560, 255},         //
+      {lblID, 120, 3150, 2040, 255},              //
+      {lblRomName, 2220, 3150, 2460, 255},        //
+      {lblCrc, 120, 3435, 2040, 255},             //
+      {lblFileChecksum, 2220, 3435, 2460, 255},   //
+      {fbnDoChecksum, 120, 3855, 510, 510},       //
+      {lblDoChecksum, 720, 3855, 3330, 510},      //
+      {fbnClose, 4170, 3855, 510, 510},
   };
   for (const auto& row : rows) Place(row.control, row.left, row.top, row.width, row.height);
 }
@@ -56,6 +56,8 @@ void FileInfo::Dress() {
     heading->SetCentered();
   }
   for (Label* label : {&lblName, &lblDoChecksum}) label->SetWrap();
+  lblName.SetContent(Label::Content::Path);
+  lblRomName.SetContent(Label::Content::RawLine);
   lblDoChecksum.setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
   imgYes.SetPicture(QStringLiteral("yes-mark"));
   imgNo.SetPicture(QStringLiteral("no-mark"));
