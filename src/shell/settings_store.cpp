@@ -38,7 +38,7 @@ fs::path MovedFile() {
 }
 fs::path ConfigurationFolder() {
   // A relative folder in the variable counts as none.
-  const fs::path folder = EnvironmentPath("XDG_CONFIG_HOME");
+  fs::path folder = EnvironmentPath("XDG_CONFIG_HOME");
   if (folder.is_absolute()) return folder;
   const fs::path home = EnvironmentPath("HOME");
   return home.empty() ? home : home / ".config";
@@ -99,7 +99,7 @@ std::optional<std::string> TextInFile(std::string_view key, std::string_view nam
 }  // namespace
 
 fs::path SettingsFile() {
-  const fs::path moved = MovedFile();
+  fs::path moved = MovedFile();
   if (!moved.empty()) return moved;
   const fs::path folder = ConfigurationFolder();
   return folder.empty() ? folder : folder / "brolkplus" / "settings";
