@@ -20,14 +20,30 @@ step=0
 
 fail() { echo "The tour failed: $1" >&2; exit 1; }
 
-picture() { # name: keeps the screen; it must differ from the picture before
-  sleep 0.5
+same() { [ "$(compare -metric AE "$1" "$2" null: 2>&1 || true)" = 0 ]; }
+
+picture() { # name: keeps the screen once it has changed since the picture before and stands still
   step=$((step + 1))
-  local file
+  local file next tries
   file=$(printf '%s/%d-%s.png' "$pictures" "$step" "$1")
+  next=$pictures/next.png
   import -window root "$file"
-  if [ -n "${before:-}" ] && [ "$(compare -metric AE "$before" "$file" null: 2>&1 || true)" = 0 ]; then fail "nothing has changed at $1"; fi
-  before=$file
+  for tries in $(seq 60); do
+    sleep 0.4
+    import -window root "$next"
+    if same "$file" "$next" && { [ -z "${before:-}" ] || ! same "$before" "$file"; }; then
+      rm "$next"
+      before=$file
+      return
+    fi
+    mv "$next" "$file"
+  done
+  fail "nothing has changed at $1"
+}
+
+window() { # title: waits until a window of the program with this title is up
+  timeout 30 xdotool search --sync --onlyvisible --pid "$pid" --name "$1" >/dev/null || fail "no window '$1'"
+  sleep 0.5
 }
 
 click() { # x y [button [times]]: inside the main window, in pixels
@@ -47,11 +63,10 @@ picture start
 
 click 25 9                             # menu Browser
 xdotool key Down Return                # Open file
-sleep 1
+window '^Open'
 xdotool type --delay 5 "$rom"
 picture open-dialog
 xdotool key Return
-sleep 0.5
 picture opened
 
 for _ in 1 2 3 4; do click $((browser_x + 192 + 8)) $((browser_y + 384 - 8)); done   # the scroll bar's lower arrow
@@ -86,16 +101,15 @@ picture painted
 
 sum=$(md5sum <"$rom")
 xdotool key s                          # save the tile
-sleep 0.7
+window 'Save'
 picture save-question
 xdotool key Return                     # Yes
-sleep 0.7
 picture saved
 [ "$(md5sum <"$rom")" != "$sum" ] || fail "the save did not change the file"
 
 click 25 9                             # menu Browser
 xdotool key Up Return                  # Exit
-for _ in $(seq 50); do kill -0 "$pid" 2>/dev/null || break; sleep 0.1; done
+for _ in $(seq 100); do kill -0 "$pid" 2>/dev/null || break; sleep 0.1; done
 kill -0 "$pid" 2>/dev/null && fail "Exit did not end the program"
 wait "$pid" || fail "the program ended with status $?"
 trap - EXIT
