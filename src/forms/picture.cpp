@@ -102,25 +102,31 @@ void Picture::MoveMark(QPoint step) {
   if (MouseMove) MouseMove(0, 0, static_cast<float>(at.x()), static_cast<float>(at.y()));
 }
 
+bool Picture::MoveMarkByKey(int key) {
+  struct Step {
+    int key;
+    QPoint cells;
+  };
+  static constexpr Step kSteps[] = {
+      {Qt::Key_Left, {-1, 0}}, {Qt::Key_Right, {1, 0}}, {Qt::Key_Up, {0, -1}}, {Qt::Key_Down, {0, 1}}};
+  for (const Step& step : kSteps) {
+    if (step.key != key) continue;
+    MoveMark(step.cells);
+    return true;
+  }
+  return false;
+}
+
 void Picture::keyPressEvent(QKeyEvent* event) {
   const bool menuKey = event->key() == Qt::Key_Menu ||
                        (event->key() == Qt::Key_F10 && event->modifiers() == Qt::ShiftModifier);
-  if (!cellPx_) {
+  if (cellPx_ && MoveMarkByKey(event->key())) return;
+  if (!cellPx_ || (event->key() != Qt::Key_Space && !menuKey)) {
     QWidget::keyPressEvent(event);
-  } else if (event->key() == Qt::Key_Left) {
-    MoveMark({-1, 0});
-  } else if (event->key() == Qt::Key_Right) {
-    MoveMark({1, 0});
-  } else if (event->key() == Qt::Key_Up) {
-    MoveMark({0, -1});
-  } else if (event->key() == Qt::Key_Down) {
-    MoveMark({0, 1});
-  } else if (event->key() == Qt::Key_Space || menuKey) {
-    ShowMark(true);
-    Press(menuKey ? kRightButton : kLeftButton, 0, MarkedCell().center());
-  } else {
-    QWidget::keyPressEvent(event);
+    return;
   }
+  ShowMark(true);
+  Press(menuKey ? kRightButton : kLeftButton, 0, MarkedCell().center());
 }
 
 void Picture::focusInEvent(QFocusEvent* event) {

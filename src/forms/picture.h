@@ -45,6 +45,8 @@ class Picture final : public QWidget {
   [[nodiscard]] QPointF Inside(QPointF at) const;
   void Press(int button, int shift, QPointF at);
   void MoveMark(QPoint step);
+  // Answers whether the key is one of the arrows.
+  bool MoveMarkByKey(int key);
   void ShowMark(bool on);
   // The marked cell, held inside the picture as it is now.
   [[nodiscard]] QRect MarkedCell() const;
