@@ -198,7 +198,7 @@ void MainForm::ChooseTool(std::uint8_t tool) {
     FlatButton& button;
     MenuItem& item;
   } rows[] = {{panel.fbnSelect, mnuSelectMode}, {panel.fbnPaint, mnuPaintMode}, {panel.fbnFill, mnuFillMode}};
-  for (std::uint8_t index = 0; index < std::size(rows); ++index) {
+  for (std::size_t index = 0; index < std::size(rows); ++index) {
     rows[index].button.SetChecked(index == tool);
     rows[index].item.SetChecked(index == tool);
   }
