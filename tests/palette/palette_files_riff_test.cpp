@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include <filesystem>
 #include <string>
 
 #include "palette/palette_files_support.h"
@@ -144,10 +145,15 @@ TEST_F(RiffPalette, SavesTheChannelsOfAColourWithATopByte) {
 }
 
 TEST_F(RiffPalette, SavingToAPathThatCannotBeMadeGoesUnnoticed) {
-  SavePaletteFile(kRiff, PathOf("no/such/folder"));
-  SavePaletteFile(kTileLayer, PathOf("no/such/folder"));
   FillList(1);
-  SavePaletteFile(kOldBinary, PathOf("no/such/folder"));
+  const ColorSetRecord before = Sets[0];
+  for (const auto kind : {kRiff, kTileLayer, kOldBinary}) {
+    EXPECT_NO_THROW(SavePaletteFile(kind, PathOf("no/such/folder")));
+  }
+  EXPECT_FALSE(std::filesystem::exists(PathOf("no"))) << "nothing is made on the way";
+  EXPECT_EQ(SetCount, 1);
+  EXPECT_EQ(Sets[0].Colors, before.Colors);
+  EXPECT_EQ(Sets[0].Name, before.Name);
 }
 
 }  // namespace
